@@ -1,0 +1,28 @@
+#pragma once
+
+// The game board window shared by the four games, parameterised by a GameVariant.
+
+#include <memory>
+
+#include <QDialog>
+
+#include "board/game_variant.h"
+#include "engine/random_source.h"
+#include "state/game_state.h"
+
+namespace marivale {
+
+class GameBoard : public QDialog {
+    Q_OBJECT
+public:
+    // Builds the board and runs its load: the visit's money, the pay table, the bell, the backs.
+    GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
+              QWidget* parent = nullptr);
+    ~GameBoard() override;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> impl_;
+};
+
+} // namespace marivale

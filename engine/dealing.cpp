@@ -1,0 +1,33 @@
+#include "engine/dealing.h"
+
+namespace marivale {
+
+void DealCards(GameState& state, GameId game, RandomSource& random) {
+    const int deck = deckSize(game);
+    const bool freshDeal = state.DrawPhase == 0;
+    if (freshDeal) {
+        for (int code = 0; code < deck; ++code) {
+            state.CardUsed[code] = kFalse;
+        }
+    }
+    random.reseedFromClock();
+    // A held position still takes one accepted draw; the card drawn for it stays in the deck.
+    for (int position = 0; position < 5;) {
+        const int code = static_cast<int>(random.next() * deck);
+        if (code < 0 || code >= deck || isSet(state.CardUsed[code])) {
+            continue;
+        }
+        if (!isSet(state.Held[position])) {
+            state.CardUsed[code] = kTrue;
+            state.Hand[position] = static_cast<float>(code);
+        }
+        ++position;
+    }
+    if (state.DrawPhase == 1) {
+        for (int position = 0; position < 5; ++position) {
+            state.Held[position] = kFalse;
+        }
+    }
+}
+
+} // namespace marivale

@@ -1,0 +1,29 @@
+#pragma once
+
+// The four games and what the engine needs to know of each: its deck and its wild cards.
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace marivale {
+
+enum class GameId : std::uint8_t { TreasureTrips, DeucesWild, JokerWild, JacksOrBetter };
+
+// The four games in the order the tools list them.
+inline constexpr std::array<GameId, 4> kAllGames{GameId::JacksOrBetter, GameId::DeucesWild,
+                                                 GameId::JokerWild, GameId::TreasureTrips};
+
+constexpr int deckSize(GameId game) {
+    return (game == GameId::TreasureTrips || game == GameId::JokerWild) ? 53 : 52;
+}
+constexpr bool hasJoker(GameId game) {
+    return deckSize(game) == 53;
+}
+
+// The short name the command-line tools use: JB, DW, WJ, TT.
+std::string_view shortName(GameId game);
+std::optional<GameId> gameFromShortName(std::string_view name);
+
+} // namespace marivale

@@ -1,0 +1,326 @@
+#include "engine/hand_analysis.h"
+
+// Standard library
+#include <array>
+#include <utility>
+
+// Marivale
+#include "engine/card.h"
+
+namespace marivale {
+
+namespace {
+
+// A rank or suit that equals no natural one: the joker's place in the sorted hand.
+constexpr int kJokerSlot = 52;
+// Deuces Wild gives its Twos this rank, so they sort to the front.
+constexpr int kDeuceRank = -1;
+
+struct Cards {
+    std::array<int, 5> ranks{};
+    std::array<int, 5> suits{};
+    bool hasJoker{false};
+    int deuceCount{0};
+    int threesCount{0};
+};
+
+struct Patterns {
+    bool flush{false};
+    bool royal{false};
+    bool straight{false};
+    bool fourKind{false};
+    bool fullHouse{false};
+    bool threeKind{false};
+    bool twoPair{false};
+    bool pair{false};
+};
+
+// Orders five values ascending with a nine-exchange sorting network.
+template <typename T> void sortFive(std::array<T, 5>& v) {
+    const auto exchange = [&v](int a, int b) {
+        if (v[b] < v[a]) {
+            std::swap(v[a], v[b]);
+        }
+    };
+    exchange(0, 1), exchange(3, 4), exchange(2, 4), exchange(2, 3), exchange(1, 4);
+    exchange(0, 3), exchange(0, 2), exchange(1, 3), exchange(1, 2);
+}
+
+// The five codes of the hand in ascending order (the cards of a hand are distinct).
+std::array<int, 5> sortedCodes(const GameState& state) {
+    std::array<int, 5> sorted{};
+    for (int p = 0; p < 5; ++p) {
+        sorted[p] = static_cast<int>(state.Hand[p]);
+    }
+    sortFive(sorted);
+    return sorted;
+}
+
+// Splits the sorted codes into suits and ranks, setting the joker, deuce and Three counts.
+Cards splitCards(const std::array<int, 5>& sorted, GameId game) {
+    Cards cards;
+    for (int i = 0; i < 5; ++i) {
+        const int code = sorted[i];
+        if (hasJoker(game) && i == 4 && code == kJoker) {
+            cards.hasJoker = true;
+            cards.ranks[i] = kJokerSlot;
+            cards.suits[i] = kJokerSlot;
+            continue;
+        }
+        cards.suits[i] = suitIndex(code);
+        cards.ranks[i] = rankIndex(code);
+        if (game == GameId::DeucesWild && cards.ranks[i] == static_cast<int>(Rank::Two)) {
+            ++cards.deuceCount;
+            cards.ranks[i] = kDeuceRank;
+        }
+        if (cards.ranks[i] == static_cast<int>(Rank::Three)) {
+            ++cards.threesCount;
+        }
+    }
+    if (cards.hasJoker) {
+        ++cards.threesCount;
+    }
+    return cards;
+}
+
+// Sorts the ranks ascending; on Deuces Wild each suit moves with its rank. The order among equal
+// ranks never matters: the flush tests compare every natural suit with every other.
+void sortRanks(Cards& cards, bool suitsFollow) {
+    if (!suitsFollow) {
+        sortFive(cards.ranks);
+        return;
+    }
+    std::array<int, 5> keys{};
+    for (int i = 0; i < 5; ++i) {
+        keys[i] = (cards.ranks[i] + 1) * 8 + cards.suits[i];
+    }
+    sortFive(keys);
+    for (int i = 0; i < 5; ++i) {
+        cards.ranks[i] = keys[i] / 8 - 1;
+        cards.suits[i] = keys[i] % 8;
+    }
+}
+
+// The pattern tests on natural cards; with the joker only the four natural cards match.
+Patterns naturalPatterns(const Cards& c, bool jokerGame) {
+    const auto& r = c.ranks;
+    const auto& s = c.suits;
+    const bool joker = jokerGame && c.hasJoker;
+    Patterns f;
+    if (jokerGame) {
+        f.flush = s[0] == s[1] && s[1] == s[2] && s[2] == s[3] && (s[4] == s[0] || joker);
+    } else {
+        f.flush = s[0] == s[1] && s[1] == s[2] && s[2] == s[3] && s[3] == s[4];
+    }
+    f.royal = r[0] == 0 && r[1] == 9 && r[2] == 10 && r[3] == 11 && (r[4] == 12 || joker);
+    if (joker && r[3] == 12) {
+        if (r[0] == 0 && r[1] == 9 && (r[2] == 10 || r[2] == 11)) {
+            f.royal = true;
+        }
+        if (r[1] == 10 && r[2] == 11 && (r[0] == 9 || r[0] == 0)) {
+            f.royal = true;
+        }
+    }
+    if (!joker) {
+        f.straight = r[1] == r[0] + 1 && r[2] == r[1] + 1 && r[3] == r[2] + 1 && r[4] == r[3] + 1;
+    } else {
+        // The four natural cards are consecutive or miss one rank inside, which the joker fills.
+        const bool gap01 = r[0] == r[1] - 2 || r[0] == r[1] - 1;
+        const bool gap12 = r[1] == r[2] - 2 || r[1] == r[2] - 1;
+        const bool gap23 = r[2] == r[3] - 2 || r[2] == r[3] - 1;
+        const bool step01 = r[0] == r[1] - 1;
+        const bool step12 = r[1] == r[2] - 1;
+        const bool step23 = r[2] == r[3] - 1;
+        f.straight = (gap01 && step12 && step23) || (gap12 && step01 && step23) ||
+                     (gap23 && step01 && step12);
+    }
+    f.fourKind = (r[0] == r[1] && r[1] == r[2] && r[2] == r[3]) ||
+                 (r[1] == r[2] && r[2] == r[3] && r[3] == r[4]);
+    f.fullHouse = !f.fourKind && ((r[0] == r[1] && r[1] == r[2] && r[3] == r[4]) ||
+                                  (r[0] == r[1] && r[2] == r[3] && r[3] == r[4]));
+    f.threeKind = !f.fourKind && !f.fullHouse &&
+                  ((r[0] == r[1] && r[1] == r[2]) || (r[1] == r[2] && r[2] == r[3]) ||
+                   (r[2] == r[3] && r[3] == r[4]));
+    f.twoPair =
+        !f.fourKind && !f.fullHouse && !f.threeKind &&
+        ((r[0] == r[1] && (r[3] == r[4] || r[2] == r[3])) || (r[1] == r[2] && r[3] == r[4]));
+    // Only the first comparison is guarded, so a pair is also seen inside bigger hands.
+    f.pair = (r[0] == r[1] && !f.twoPair && !f.threeKind && !f.fullHouse && !f.fourKind) ||
+             r[1] == r[2] || r[2] == r[3] || r[3] == r[4];
+    return f;
+}
+
+// Jacks or Better: the first line that applies, then the pair rule.
+HandAnalysis classifyJacks(GameState& state, const Cards& c, const Patterns& f) {
+    if (f.flush && f.royal)
+        return {9};
+    if (f.flush && f.straight)
+        return {8};
+    if (f.fourKind)
+        return {7};
+    if (f.fullHouse)
+        return {6};
+    if (f.flush)
+        return {5};
+    if (f.straight || f.royal)
+        return {4};
+    if (f.threeKind)
+        return {3};
+    if (f.twoPair)
+        return {2};
+    if (!f.pair)
+        return {0};
+    int k = 5;
+    for (int i = 0; i < 4; ++i) {
+        if (c.ranks[i] == c.ranks[i + 1]) {
+            k = i;
+        }
+    }
+    if (k == 5)
+        return {0};
+    const int pairRank = c.ranks[k];
+    if (pairRank != 0 && pairRank < 10)
+        return {0};
+    state.Hand[0] = static_cast<float>(pairRank);
+    return {1};
+}
+
+// Treasure Trips and Joker Wild: the joker completes the hand where it helps.
+HandAnalysis classifyJoker(GameState& state, GameId game, const Cards& c, const Patterns& f) {
+    const bool joker = c.hasJoker;
+    bool marked = false;
+    if (game == GameId::JokerWild) {
+        const bool naturalAces = f.pair && c.ranks[0] == 0 && c.ranks[1] == 0;
+        const bool aceWithJoker = joker && c.ranks[0] == 0;
+        if (naturalAces || aceWithJoker) {
+            state.Hand[0] = kAcePairMark;
+            marked = true;
+        }
+    }
+    std::uint8_t code = 0;
+    if (f.fourKind && joker)
+        code = 9;
+    else if (f.flush && f.royal)
+        code = 8;
+    else if (f.flush && f.straight)
+        code = 7;
+    else if ((joker && f.threeKind) || f.fourKind)
+        code = 6;
+    else if ((joker && f.twoPair) || f.fullHouse)
+        code = 5;
+    else if (f.flush)
+        code = 4;
+    else if (f.straight || f.royal)
+        code = 3;
+    else if ((joker && f.pair) || f.threeKind)
+        code = 2;
+    else if (f.twoPair || marked)
+        code = 1;
+    return {code, marked};
+}
+
+// Deuces Wild: the pattern tests written separately for each number of deuces.
+Patterns deucePatterns(const Cards& c) {
+    const auto& r = c.ranks;
+    const auto& s = c.suits;
+    const auto high = [](int rank) {
+        return rank >= 9;
+    };
+    const auto royalLow = [](int rank) {
+        return rank == 0 || rank >= 9;
+    };
+    Patterns f;
+    switch (c.deuceCount) {
+    case 3:
+        f.flush = s[3] == s[4];
+        f.royal = royalLow(r[3]) && high(r[4]) && r[3] != r[4];
+        f.straight = r[4] <= r[3] + 4;
+        f.pair = r[3] == r[4];
+        break;
+    case 2:
+        f.flush = s[2] == s[3] && s[3] == s[4];
+        f.royal = royalLow(r[2]) && high(r[3]) && high(r[4]) && r[2] != r[3] && r[3] != r[4] &&
+                  r[2] != r[4];
+        f.straight = r[3] <= r[2] + 4 && r[4] <= r[2] + 4 && r[2] != r[3] && r[3] != r[4];
+        f.threeKind = r[2] == r[3] && r[3] == r[4];
+        f.pair = r[2] == r[3] || r[3] == r[4];
+        break;
+    case 1:
+        f.flush = s[1] == s[2] && s[2] == s[3] && s[3] == s[4];
+        f.royal = royalLow(r[1]) && high(r[2]) && high(r[3]) && high(r[4]) && r[1] != r[2] &&
+                  r[2] != r[3] && r[3] != r[4];
+        f.straight = r[2] <= r[1] + 4 && r[3] <= r[1] + 4 && r[4] <= r[1] + 4 && r[1] != r[2] &&
+                     r[2] != r[3] && r[3] != r[4];
+        f.fourKind = r[1] == r[2] && r[2] == r[3] && r[3] == r[4];
+        f.threeKind = (r[1] == r[2] && r[2] == r[3]) || (r[2] == r[3] && r[3] == r[4]);
+        f.twoPair = r[1] == r[2] && r[3] == r[4];
+        f.pair = r[1] == r[2] || r[2] == r[3] || r[3] == r[4];
+        break;
+    default:
+        f.flush = s[0] == s[1] && s[1] == s[2] && s[2] == s[3] && s[3] == s[4];
+        f.royal = r[0] == 0 && r[1] == 9 && r[2] == 10 && r[3] == 11 && r[4] == 12;
+        f.straight = r[1] == r[0] + 1 && r[2] == r[1] + 1 && r[3] == r[2] + 1 && r[4] == r[3] + 1;
+        f.fourKind = (r[0] == r[1] && r[1] == r[2] && r[2] == r[3]) ||
+                     (r[1] == r[2] && r[2] == r[3] && r[3] == r[4]);
+        f.fullHouse = (r[0] == r[1] && r[1] == r[2] && r[3] == r[4]) ||
+                      (r[0] == r[1] && r[2] == r[3] && r[3] == r[4]);
+        f.threeKind = (r[0] == r[1] && r[1] == r[2]) || (r[1] == r[2] && r[2] == r[3]) ||
+                      (r[2] == r[3] && r[3] == r[4]);
+        f.twoPair = (r[0] == r[1] && r[2] == r[3]) || (r[0] == r[1] && r[3] == r[4]) ||
+                    (r[1] == r[2] && r[3] == r[4]);
+        f.pair = r[0] == r[1] || r[1] == r[2] || r[2] == r[3] || r[3] == r[4];
+        break;
+    }
+    return f;
+}
+
+HandAnalysis classifyDeuces(const Cards& c) {
+    const int n = c.deuceCount;
+    if (n == 4)
+        return {9};
+    const Patterns f = deucePatterns(c);
+    if (n == 0 && f.royal && f.flush)
+        return {10};
+    if (n > 0 && f.royal && f.flush)
+        return {8};
+    if ((n == 3 && f.pair) || (n == 2 && f.threeKind) || (n == 1 && f.fourKind))
+        return {7};
+    if (f.flush && f.straight)
+        return {6};
+    if (n == 3 || (n == 2 && f.pair) || (n == 1 && f.threeKind) || f.fourKind)
+        return {5};
+    if ((n == 1 && f.twoPair) || f.fullHouse)
+        return {4};
+    if (f.flush)
+        return {3};
+    if (f.straight || f.royal)
+        return {2};
+    if (f.threeKind || n == 2 || (n == 1 && f.pair))
+        return {1};
+    return {0};
+}
+
+} // namespace
+
+HandAnalysis AnalyzeHand(GameState& state, GameId game) {
+    if (game == GameId::TreasureTrips) {
+        state.BonusDue = kFalse;
+    }
+    Cards cards = splitCards(sortedCodes(state), game);
+    if (game == GameId::TreasureTrips && cards.threesCount > 2) {
+        state.BonusDue = kTrue;
+    }
+    sortRanks(cards, game == GameId::DeucesWild);
+    switch (game) {
+    case GameId::DeucesWild:
+        return classifyDeuces(cards);
+    case GameId::JacksOrBetter:
+        return classifyJacks(state, cards, naturalPatterns(cards, false));
+    case GameId::TreasureTrips:
+    case GameId::JokerWild:
+        break;
+    }
+    return classifyJoker(state, game, cards, naturalPatterns(cards, true));
+}
+
+} // namespace marivale

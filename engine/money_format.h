@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace marivale {
+
+// Renders dollars with a display pattern such as "$#,###,##0.00": "$" printed as is, a comma
+// among the integer digits groups by thousands, ".00" gives two decimals rounded, and a negative
+// value gets a minus in front of everything (-$20.00).
+std::string FormatMoney(float value, std::string_view pattern);
+
+namespace pattern {
+inline constexpr std::string_view kCredit = "$#,###,##0.00";
+inline constexpr std::string_view kStatistic = "$#,###,##0.00";
+inline constexpr std::string_view kStatisticPlain = "#,###,##0.00";
+inline constexpr std::string_view kBet = "$##0.00";
+inline constexpr std::string_view kWinLast = "$##,##0.00";
+inline constexpr std::string_view kBonus = "$#,##0.00";
+} // namespace pattern
+
+} // namespace marivale

@@ -1,0 +1,10 @@
+#include "state/game_state.h"
+
+namespace marivale {
+
+void applyStartupDefaults(GameState& state) {
+    state.PlayUnit = 0.25f;
+    state.DrawPhase = 0;
+}
+
+} // namespace marivale

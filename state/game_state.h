@@ -1,0 +1,57 @@
+#pragma once
+
+// The one record of game state that every window shares. Field names, types and widths are
+// fixed: flags are 16-bit with -1 for true, money is single-precision dollars.
+
+#include <array>
+#include <cstdint>
+
+namespace marivale {
+
+inline constexpr std::int16_t kTrue = -1;
+inline constexpr std::int16_t kFalse = 0;
+
+struct GameState {
+    std::array<std::int16_t, 6> Held{};      // hold flag per position 0..4; slot 5 unused
+    std::array<float, 6> Hand{};             // card code per position 0..4; slot 5 unused
+    std::array<std::int16_t, 54> CardUsed{}; // -1 when the code was dealt this hand
+
+    // Dollar payout of each kind of paying hand at the current bet.
+    float PayoutFiveKind{};
+    float PayoutRoyal{};
+    float PayoutStraightF{};
+    float PayoutWRoyal{};
+    float PayoutFourDeuces{};
+    float PayoutFourKind{};
+    float PayoutFullHouse{};
+    float PayoutFlush{};
+    float PayoutStraight{};
+    float PayoutThreeKind{};
+    float PayoutTwoPair{};
+    float PayoutPair{};
+
+    float Credits{};
+    float BetAmount{};
+    float WinAmount{};
+    float LastWinAmount{};
+    float TotalPurchased{};
+    float GameWinnings{};
+    float NetWinLoss{};
+    std::uint8_t DrawPhase{};       // 0 before the deal, 1 dealt, 2 awaiting the Double Up choice
+    std::int16_t DoubleUpEnabled{}; // flag
+    std::int16_t DoubleUpFactor{};  // 0, or 1, 2, 4 ... while doubling
+    std::int16_t BonusDue{};        // flag: the Treasure Trips hand earns the Treasure Hunt
+    float BonusAmount{};
+    float PlayUnit{};
+    std::uint8_t HandRank{};
+};
+
+// Readers treat any nonzero 16-bit flag as true.
+constexpr bool isSet(std::int16_t flag) {
+    return flag != 0;
+}
+
+// The values start-up gives the state before the main menu opens.
+void applyStartupDefaults(GameState& state);
+
+} // namespace marivale

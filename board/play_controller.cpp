@@ -1,0 +1,315 @@
+#include "board/play_controller.h"
+
+// Standard library
+#include <array>
+
+// Marivale
+#include "engine/dealing.h"
+#include "engine/hand_names.h"
+#include "engine/money_format.h"
+#include "engine/pay_table.h"
+
+namespace marivale {
+
+namespace {
+
+// Dollars added by each purchase option, by index.
+constexpr std::array<float, 8> kPurchaseAmounts{1000, 500, 100, 50, 20, 10, 5, 1};
+
+// The cash-out minimum.
+constexpr float kCashOutMinimum = 10.0f;
+
+constexpr std::string_view kHoldText = "Hold";
+constexpr std::string_view kNotEnoughCredits = "Not Enough Credits To Play";
+constexpr std::string_view kCashOutRefused = "Credits Must Be > $10.00 to Cash Out";
+
+} // namespace
+
+PlayController::PlayController(const GameVariant& variant, GameState& state, RandomSource& random,
+                               BoardView& view)
+    : variant_(variant), state_(state), random_(random), view_(view) {}
+
+void PlayController::showMoney(Control control, float value, std::string_view pattern) {
+    view_.setText(control, FormatMoney(value, pattern));
+}
+
+void PlayController::showPayTable() {
+    const PayTable& table = payTable(variant_.game);
+    for (int row = 0; row < kPayRows; ++row) {
+        view_.setPayText(row, FormatMoney(state_.*table[row].field, table[row].pattern));
+    }
+}
+
+// Shows the visit's net and names it; an exact 0 counts as a loss.
+void PlayController::showNet(std::string_view pattern) {
+    const float net = state_.GameWinnings - state_.TotalPurchased;
+    showMoney(Control::ProfLoss, net, pattern);
+    view_.setText(Control::PLTitle, net > 0.0f ? "Net Winnings" : "Net Losses");
+}
+
+// Starts a visit: a positive net total becomes credits, the bet starts at one unit.
+void PlayController::load() {
+    state_.DrawPhase = 0;
+    for (int p = 0; p < 5; ++p) {
+        state_.Held[p] = kFalse;
+    }
+    state_.DoubleUpFactor = 0;
+    if (state_.NetWinLoss > 0.0f) {
+        state_.Credits = state_.NetWinLoss;
+        state_.NetWinLoss = 0.0f;
+    } else {
+        state_.Credits = 0.0f;
+    }
+    showMoney(Control::Credit, state_.Credits, pattern::kCredit);
+    state_.WinAmount = 0.0f;
+    showMoney(Control::Win, state_.WinAmount, pattern::kWinLast);
+    state_.LastWinAmount = 0.0f;
+    showMoney(Control::Last, state_.LastWinAmount, pattern::kWinLast);
+    state_.BetAmount = state_.PlayUnit;
+    showMoney(Control::Bet, state_.BetAmount, pattern::kBet);
+    state_.TotalPurchased = 0.0f;
+    state_.GameWinnings = 0.0f;
+    ComputePayouts(state_, variant_.game);
+    showPayTable();
+    showMoney(Control::TotPurchased, 0.0f, pattern::kStatistic);
+    showMoney(Control::TotWinGame, 0.0f, pattern::kStatistic);
+    showMoney(Control::ProfLoss, 0.0f, pattern::kStatistic);
+    view_.bell(BellCommand::Open);
+    view_.showCardBacks();
+}
+
+// Ends a visit: remaining credits are cashed out and the visit's net joins the running total.
+void PlayController::unload() {
+    if (state_.Credits > 0.0f) {
+        state_.GameWinnings = state_.GameWinnings + state_.Credits;
+        state_.Credits = 0.0f;
+    }
+    state_.NetWinLoss = state_.NetWinLoss + (state_.GameWinnings - state_.TotalPurchased);
+    view_.bell(BellCommand::Close);
+}
+
+void PlayController::drawDealClicked() {
+    switch (state_.DrawPhase) {
+    case 0:
+        deal();
+        break;
+    case 1:
+        draw();
+        break;
+    case 2:
+        takeScore();
+        break;
+    default:
+        break;
+    }
+}
+
+void PlayController::standClicked() {
+    switch (state_.DrawPhase) {
+    case 0:
+        cashOut();
+        break;
+    case 1:
+        stand();
+        break;
+    case 2:
+        doubleUp();
+        break;
+    default:
+        break;
+    }
+}
+
+void PlayController::cardClicked(int position) {
+    if (state_.DrawPhase != 1 || position < 0 || position > 4) {
+        return;
+    }
+    const Control mark = holdMark(position);
+    if (view_.text(mark) == kHoldText) {
+        view_.setText(mark, "");
+        state_.Held[position] = kFalse;
+    } else {
+        view_.setText(mark, kHoldText);
+        state_.Held[position] = kTrue;
+    }
+}
+
+void PlayController::setMoneyButtonsEnabled(bool enabled) {
+    for (const Control control :
+         {Control::Purchase, Control::BetUp, Control::BetDn, Control::Exit}) {
+        view_.setEnabled(control, enabled);
+    }
+}
+
+// Takes the bet and deals five fresh cards, or refuses when the credits don't cover the bet.
+void PlayController::deal() {
+    if (state_.Credits < state_.BetAmount) {
+        view_.setText(Control::Output2, kNotEnoughCredits);
+        view_.showCardBacks();
+        return;
+    }
+    state_.Credits = state_.Credits - state_.BetAmount;
+    showMoney(Control::Credit, state_.Credits, pattern::kCredit);
+    state_.LastWinAmount = state_.WinAmount;
+    showMoney(Control::Last, state_.LastWinAmount, pattern::kWinLast);
+    state_.WinAmount = 0.0f;
+    showMoney(Control::Win, state_.WinAmount, pattern::kWinLast);
+    view_.setText(Control::Output2, "");
+    setMoneyButtonsEnabled(false);
+    DealCards(state_, variant_.game, random_);
+    view_.showCards();
+    state_.DrawPhase = 1;
+    view_.setText(Control::DrawDeal, "D&raw");
+    view_.setText(Control::Stand, "&Stand");
+    view_.handDealt();
+}
+
+void PlayController::draw() {
+    std::array<bool, 5> held{};
+    for (int p = 0; p < 5; ++p) {
+        held[p] = isSet(state_.Held[p]);
+    }
+    view_.handPlayed(held);
+    DealCards(state_, variant_.game, random_);
+    view_.showCards();
+    analysis_ = AnalyzeHand(state_, variant_.game);
+    state_.HandRank = analysis_.code;
+    finishHand();
+}
+
+void PlayController::stand() {
+    view_.handPlayed({true, true, true, true, true});
+    analysis_ = AnalyzeHand(state_, variant_.game);
+    state_.HandRank = analysis_.code;
+    finishHand();
+}
+
+void PlayController::finishHand() {
+    const bool bonusBlocks = variant_.game == GameId::TreasureTrips && isSet(state_.BonusDue);
+    if (state_.HandRank != 0 && isSet(state_.DoubleUpEnabled) && !bonusBlocks) {
+        enterDoubleUp();
+        clearHolds();
+        return;
+    }
+    if (state_.HandRank != 0) {
+        announceHand();
+        settleHand();
+    }
+    endHand();
+    clearHolds();
+}
+
+void PlayController::takeScore() {
+    announceHand();
+    settleHand();
+    endHand();
+}
+
+// Risks the win in the Double Up window; a factor above 0 pays that multiple of the win.
+void PlayController::doubleUp() {
+    view_.runDoubleUp();
+    view_.showCardBacks();
+    if (state_.DoubleUpFactor > 0) {
+        announceHand();
+        settleHand();
+        state_.DoubleUpFactor = 0;
+    }
+    endHand();
+}
+
+// Names the paying hand and rings the bell once.
+void PlayController::announceHand() {
+    if (state_.HandRank == 0) {
+        return;
+    }
+    view_.bell(BellCommand::Play);
+    view_.setText(Control::Output2,
+                  HandName(variant_.game, state_.HandRank, state_, analysis_.acePairMarked));
+    view_.bell(BellCommand::Prev);
+}
+
+void PlayController::settleHand() {
+    const Settlement settlement = SettleHand(state_, variant_.game, view_.treasureHunt());
+    if (!settlement.paid) {
+        return;
+    }
+    if (settlement.bonusPlayed) {
+        view_.showCardBacks();
+    }
+    showMoney(Control::Credit, state_.Credits, pattern::kCredit);
+    showMoney(Control::Win, state_.WinAmount, settlement.winPattern);
+}
+
+void PlayController::clearHolds() {
+    for (int p = 0; p < 5; ++p) {
+        view_.setText(holdMark(p), "");
+    }
+    for (int p = 0; p < 5; ++p) {
+        state_.Held[p] = kFalse;
+    }
+}
+
+void PlayController::endHand() {
+    state_.DrawPhase = 0;
+    view_.setText(Control::DrawDeal, "&Deal");
+    view_.setText(Control::Stand, "&Cash Out");
+    setMoneyButtonsEnabled(true);
+}
+
+void PlayController::enterDoubleUp() {
+    state_.DrawPhase = 2;
+    view_.setText(Control::Stand, "&Double      Up");
+    view_.setText(Control::DrawDeal, "&Take Score");
+}
+
+void PlayController::purchaseClicked() {
+    const int option = view_.selectedPurchase();
+    if (state_.DrawPhase != 0 || option < 0 ||
+        option >= static_cast<int>(kPurchaseAmounts.size())) {
+        return;
+    }
+    const float amount = kPurchaseAmounts[static_cast<std::size_t>(option)];
+    state_.Credits = state_.Credits + amount;
+    showMoney(Control::Credit, state_.Credits, pattern::kCredit);
+    state_.TotalPurchased = state_.TotalPurchased + amount;
+    showMoney(Control::TotPurchased, state_.TotalPurchased, pattern::kStatistic);
+    showNet(pattern::kStatistic);
+}
+
+void PlayController::betUpClicked() {
+    const float highest = state_.PlayUnit * 20.0f;
+    if (state_.DrawPhase != 0 || !(highest > state_.BetAmount)) {
+        return;
+    }
+    state_.BetAmount = state_.BetAmount + state_.PlayUnit;
+    showMoney(Control::Bet, state_.BetAmount, pattern::kBet);
+    ComputePayouts(state_, variant_.game);
+    showPayTable();
+    view_.betChanged();
+}
+
+void PlayController::betDnClicked() {
+    if (state_.DrawPhase != 0 || !(state_.BetAmount > state_.PlayUnit)) {
+        return;
+    }
+    state_.BetAmount = state_.BetAmount - state_.PlayUnit;
+    showMoney(Control::Bet, state_.BetAmount, pattern::kBet);
+    ComputePayouts(state_, variant_.game);
+    showPayTable();
+    view_.betChanged();
+}
+
+// Moves the credits into the visit's winnings, from $10.00 up.
+void PlayController::cashOut() {
+    if (state_.Credits < kCashOutMinimum) {
+        view_.setText(Control::Output2, kCashOutRefused);
+        return;
+    }
+    state_.GameWinnings = state_.GameWinnings + state_.Credits;
+    showMoney(Control::TotWinGame, state_.GameWinnings, pattern::kStatistic);
+    state_.Credits = 0.0f;
+    showMoney(Control::Credit, state_.Credits, pattern::kCredit);
+    showNet(pattern::kStatisticPlain);
+}
+
+} // namespace marivale

@@ -1,0 +1,58 @@
+#pragma once
+
+// The play of a hand and the money of a visit, for any of the four boards: the phases and their
+// captions, the credit check, holds, draw and stand, Take Score and Double Up, purchases, the
+// bet, cash-out, and the board's load and unload.
+
+#include "board/board_view.h"
+#include "board/game_variant.h"
+#include "engine/hand_analysis.h"
+#include "engine/random_source.h"
+#include "state/game_state.h"
+
+namespace marivale {
+
+class PlayController {
+public:
+    PlayController(const GameVariant& variant, GameState& state, RandomSource& random,
+                   BoardView& view);
+
+    void load();
+    void unload();
+
+    void drawDealClicked();
+    void standClicked();
+    void cardClicked(int position);
+    void purchaseClicked();
+    void betUpClicked();
+    void betDnClicked();
+
+    const GameVariant& variant() const { return variant_; }
+
+private:
+    void deal();
+    void draw();
+    void stand();
+    void takeScore();
+    void doubleUp();
+    void cashOut();
+    // After a draw or a stand: offer Double Up, or pay the hand and end it.
+    void finishHand();
+    void announceHand();
+    void settleHand();
+    void clearHolds();
+    void endHand();
+    void enterDoubleUp();
+    void setMoneyButtonsEnabled(bool enabled);
+    void showMoney(Control control, float value, std::string_view pattern);
+    void showPayTable();
+    void showNet(std::string_view pattern);
+
+    const GameVariant& variant_;
+    GameState& state_;
+    RandomSource& random_;
+    BoardView& view_;
+    HandAnalysis analysis_{};
+};
+
+} // namespace marivale

@@ -1,0 +1,61 @@
+#include "fake_view.h"
+
+// Marivale
+#include "hand_text.h"
+
+namespace marivale::testing {
+
+void FakeView::setText(Control control, std::string_view text) {
+    texts_[control] = std::string(text);
+}
+
+std::string_view FakeView::text(Control control) const {
+    const auto found = texts_.find(control);
+    return found == texts_.end() ? std::string_view{} : std::string_view{found->second};
+}
+
+bool FakeView::enabled(Control control) const {
+    const auto found = enabled_.find(control);
+    return found == enabled_.end() || found->second;
+}
+
+void FakeView::showCardBacks() {
+    faceUp = false;
+    ++backsShown;
+}
+
+void FakeView::runDoubleUp() {
+    ++doubleUps;
+    doubleUpPlay(*state_);
+}
+
+void FakeView::play(GameState& state) {
+    ++bonusGames;
+    for (const int factor : chests) {
+        state.BonusAmount = static_cast<float>(factor) * state.BonusAmount;
+    }
+}
+
+Table::Table(GameId game, float netWinLoss, float playUnit)
+    : controller(variantFor(game), state, random, view) {
+    view.bind(state);
+    state.PlayUnit = playUnit;
+    state.NetWinLoss = netWinLoss;
+    view.setText(Control::PLTitle, "Net Winnings");
+    view.setText(Control::DrawDeal, "&Deal");
+    view.setText(Control::Stand, "&Cash Out");
+    controller.load();
+}
+
+void Table::script(std::string_view cards) {
+    for (const int code : cardsFromText(cards)) {
+        random.pushIndex(code, deckSize(controller.variant().game));
+    }
+}
+
+void Table::buy(int option) {
+    view.purchaseOption = option;
+    controller.purchaseClicked();
+}
+
+} // namespace marivale::testing

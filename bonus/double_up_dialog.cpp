@@ -1,0 +1,148 @@
+#include "bonus/double_up_dialog.h"
+
+// Standard library
+#include <algorithm>
+
+// Qt
+#include <QLabel>
+#include <QPushButton>
+
+// Marivale
+#include "board/card_pictures.h"
+#include "bonus/twips.h"
+#include "bonus/wrap_button.h"
+#include "engine/card.h"
+
+namespace marivale {
+
+namespace {
+
+// Design places of the window and its controls, in twips.
+constexpr TwipRect kWindow{0, 0, 5400, 3600};
+constexpr TwipRect kTitleRect{0, 150, 5400, 540};
+constexpr TwipRect kCardRect{2115, 900, 1155, 1545};
+constexpr TwipRect kLowRect{360, 900, 1500, 1545};
+constexpr TwipRect kHighRect{3540, 900, 1500, 1545};
+constexpr TwipRect kLimitRect{0, 2535, 5400, 270};
+constexpr TwipRect kReturnRect{360, 2865, 4680, 525};
+
+const QString kTakeCaption = QStringLiteral("&Take Doubled Winnings");
+const QString kReturnCaption = QStringLiteral("Re&turn");
+
+// Whether the guess wins on a card of this rank index: Low on Two to Seven, High on Nine to
+// King and the Ace. Eights are never drawn.
+bool guessWins(DoubleUpGuess choice, int rank) {
+    const bool low = rank >= 1 && rank <= 6;
+    return choice == DoubleUpGuess::Low ? low : !low;
+}
+
+// The factor after a correct guess: doubled, but never past the table limit.
+std::int16_t doubledFactor(std::int16_t factor) {
+    const int doubled = std::max(1, 2 * static_cast<int>(factor));
+    return static_cast<std::int16_t>(std::min<int>(doubled, DoubleUpDialog::kTableLimit));
+}
+
+// Draws a card from the 48 that are not Eights, one uniform value per try.
+CardCode drawCard(RandomSource& random) {
+    CardCode card = 0;
+    do {
+        card = std::clamp(static_cast<int>(random.next() * 52), 0, 51);
+    } while (rankOf(card) == Rank::Eight);
+    return card;
+}
+
+} // namespace
+
+DoubleUpDialog::DoubleUpDialog(GameState& state, RandomSource& random, CardPictures& pictures,
+                               QWidget* parent)
+    : QDialog(parent), state_(state), random_(random), pictures_(pictures) {
+    buildWindow();
+    load();
+}
+
+void DoubleUpDialog::buildWindow() {
+    setObjectName(QStringLiteral("frmDup"));
+    setWindowTitle(QStringLiteral("Double Up"));
+    setModal(true);
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                   Qt::MSWindowsFixedSizeDialogHint);
+    setFixedSize(fromTwips(kWindow).size());
+    setFont(designFont(8.25, true));
+    QPalette yellow = palette();
+    yellow.setColor(QPalette::Window, QColor(255, 255, 0));
+    yellow.setColor(QPalette::WindowText, Qt::black);
+    setPalette(yellow);
+    setAutoFillBackground(true);
+
+    title_ = new QLabel(QStringLiteral("Double Up"), this);
+    title_->setObjectName(QStringLiteral("Label1"));
+    title_->setFont(designFont(18, true));
+    title_->setAlignment(Qt::AlignCenter);
+    title_->setGeometry(fromTwips(kTitleRect));
+
+    // The card only shows; a click on it does nothing.
+    card_ = new QPushButton(this);
+    card_->setObjectName(QStringLiteral("DUCard"));
+    card_->setFocusPolicy(Qt::NoFocus);
+    card_->setAutoDefault(false);
+    card_->setGeometry(fromTwips(kCardRect));
+
+    low_ = new WrapButton(QStringLiteral("&Low Card  2 - 7 Wins"), this);
+    low_->setObjectName(QStringLiteral("Low"));
+    low_->setGeometry(fromTwips(kLowRect));
+
+    high_ = new WrapButton(QStringLiteral("&High Card 9 - A Wins"), this);
+    high_->setObjectName(QStringLiteral("High"));
+    high_->setGeometry(fromTwips(kHighRect));
+
+    limitNote_ = new QLabel(QStringLiteral("Table limit reached: take your winnings"), this);
+    limitNote_->setObjectName(QStringLiteral("LimitNote"));
+    limitNote_->setAlignment(Qt::AlignCenter);
+    limitNote_->setGeometry(fromTwips(kLimitRect));
+
+    return_ = new QPushButton(this);
+    return_->setObjectName(QStringLiteral("RetBtn"));
+    return_->setGeometry(fromTwips(kReturnRect));
+
+    connect(low_, &QPushButton::clicked, this, [this] { guess(DoubleUpGuess::Low); });
+    connect(high_, &QPushButton::clicked, this, [this] { guess(DoubleUpGuess::High); });
+    connect(return_, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+// The opening of the game each time the window is built.
+void DoubleUpDialog::load() {
+    canGuess_ = kTrue;
+    pictures_.showOn(*card_, QStringLiteral("bb.gif"));
+    state_.DoubleUpFactor = 1;
+    return_->setEnabled(false);
+    limitNote_->hide();
+}
+
+// Draws a card, shows it, and doubles the factor or loses it.
+void DoubleUpDialog::guess(DoubleUpGuess choice) {
+    if (!isSet(canGuess_) || state_.DoubleUpFactor >= kTableLimit) {
+        return;
+    }
+    const CardCode card = drawCard(random_);
+    pictures_.showOn(*card_, QString::number(card) + QStringLiteral(".gif"));
+
+    // RetBtn is enabled before the guess buttons go, so the focus lands on it.
+    return_->setEnabled(true);
+    if (guessWins(choice, rankIndex(card))) {
+        state_.DoubleUpFactor = doubledFactor(state_.DoubleUpFactor);
+        return_->setText(kTakeCaption);
+        if (state_.DoubleUpFactor >= kTableLimit) {
+            limitNote_->show();
+            low_->setEnabled(false);
+            high_->setEnabled(false);
+        }
+    } else {
+        state_.DoubleUpFactor = 0;
+        canGuess_ = kFalse;
+        return_->setText(kReturnCaption);
+        high_->setEnabled(false);
+        low_->setEnabled(false);
+    }
+}
+
+} // namespace marivale

@@ -1,0 +1,164 @@
+#include "bonus/treasure_hunt_dialog.h"
+
+// Standard library
+#include <algorithm>
+
+// Qt
+#include <QFile>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+
+// Marivale
+#include "bonus/twips.h"
+#include "engine/money_format.h"
+
+#ifdef MARIVALE_HAVE_CHEST_ART
+// The chest pictures are compiled into this library; a static library must load them itself.
+static void initChestArt() {
+    Q_INIT_RESOURCE(bonus);
+}
+#else
+static void initChestArt() {}
+#endif
+
+namespace marivale {
+
+namespace {
+
+// Design places of the window and its controls, in twips.
+constexpr TwipRect kWindow{0, 0, 4950, 3450};
+constexpr TwipRect kTitleRect{0, 120, 4950, 540};
+constexpr TwipRect kPromptRect{0, 660, 4950, 330};
+constexpr std::array<TwipRect, 3> kChestRects{
+    TwipRect{600, 1620, 780, 780}, TwipRect{2085, 1140, 780, 780}, TwipRect{3570, 1620, 780, 780}};
+constexpr TwipRect kPayRect{1560, 2040, 1830, 360};
+constexpr TwipRect kCloseRect{1575, 2640, 1800, 450};
+
+constexpr int kChestSize = 32;
+const QString kChestResource = QStringLiteral(":/chest.png");
+const QString kChestResource2x = QStringLiteral(":/chest@2x.png");
+
+// A stand-in chest in grey tones on white, drawn when the chest artwork is not built in.
+QPixmap drawChest(qreal ratio) {
+    QPixmap pixmap(QSize(kChestSize, kChestSize) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::white);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(60, 60, 60), 1.0));
+    painter.setBrush(QColor(150, 150, 150));
+    painter.drawRect(QRectF(4.5, 14.5, 23, 13)); // body
+    painter.setBrush(QColor(190, 190, 190));
+    painter.drawRoundedRect(QRectF(4.5, 7.5, 23, 8), 3.5, 3.5); // lid
+    painter.setBrush(QColor(90, 90, 90));
+    painter.drawRect(QRectF(4.5, 15.5, 23, 2)); // band
+    painter.setBrush(QColor(235, 235, 235));
+    painter.drawRect(QRectF(14.0, 14.0, 4, 5)); // lock
+    return pixmap;
+}
+
+QIcon chestIcon() {
+    initChestArt();
+    QIcon icon;
+    if (QFile::exists(kChestResource)) {
+        icon.addFile(kChestResource);
+        if (QFile::exists(kChestResource2x)) {
+            icon.addFile(kChestResource2x);
+        }
+        return icon;
+    }
+    icon.addPixmap(drawChest(1.0));
+    icon.addPixmap(drawChest(2.0));
+    return icon;
+}
+
+// The factor of one chest: 3, 6, ... 30, from a uniform value in [0, 1).
+int chestFactor(double value) {
+    return std::clamp(static_cast<int>(value * 10 + 1), 1, 10) * 3;
+}
+
+} // namespace
+
+TreasureHuntDialog::TreasureHuntDialog(RandomSource& random, QWidget* parent)
+    : QDialog(parent), random_(random) {
+    buildWindow();
+}
+
+void TreasureHuntDialog::buildWindow() {
+    setObjectName(QStringLiteral("TrTrip"));
+    setWindowTitle(QStringLiteral("Treasure Hunt"));
+    setModal(true);
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                   Qt::MSWindowsFixedSizeDialogHint);
+    setFixedSize(fromTwips(kWindow).size());
+    setFont(designFont(8.25, true));
+    QPalette blue = palette();
+    blue.setColor(QPalette::Window, QColor(0, 0, 192));
+    blue.setColor(QPalette::WindowText, Qt::white);
+    setPalette(blue);
+    setAutoFillBackground(true);
+
+    title_ = new QLabel(QStringLiteral("Treasure Hunt"), this);
+    title_->setObjectName(QStringLiteral("Label1"));
+    title_->setFont(designFont(18, true));
+    title_->setAlignment(Qt::AlignCenter);
+    title_->setGeometry(fromTwips(kTitleRect));
+
+    prompt_ = new QLabel(QStringLiteral("Select Your Bonus Treasure"), this);
+    prompt_->setObjectName(QStringLiteral("Label2"));
+    prompt_->setFont(designFont(9.75, true));
+    prompt_->setAlignment(Qt::AlignCenter);
+    prompt_->setGeometry(fromTwips(kPromptRect));
+
+    const QIcon chest = chestIcon();
+    for (std::size_t i = 0; i < chests_.size(); ++i) {
+        QPushButton* button = new QPushButton(this);
+        button->setObjectName(QStringLiteral("Tr%1").arg(i + 1));
+        button->setIcon(chest);
+        button->setIconSize(QSize(kChestSize, kChestSize));
+        button->setGeometry(fromTwips(kChestRects[i]));
+        connect(button, &QPushButton::clicked, this, &TreasureHuntDialog::chooseChest);
+        chests_[i] = button;
+    }
+
+    pay_ = new QLineEdit(this);
+    pay_->setObjectName(QStringLiteral("TrPay"));
+    pay_->setReadOnly(true);
+    pay_->setFocusPolicy(Qt::NoFocus);
+    pay_->setAlignment(Qt::AlignCenter);
+    pay_->setGeometry(fromTwips(kPayRect));
+
+    close_ = new QPushButton(QStringLiteral("&Open Chest"), this);
+    close_->setObjectName(QStringLiteral("TClose"));
+    close_->setGeometry(fromTwips(kCloseRect));
+    connect(close_, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+void TreasureHuntDialog::load(GameState& state) {
+    state_ = &state;
+    close_->hide();
+    pay_->clear();
+    show();
+}
+
+void TreasureHuntDialog::play(GameState& state) {
+    load(state);
+    exec();
+}
+
+// Multiplies the bonus by a fresh chest factor and shows it.
+void TreasureHuntDialog::chooseChest() {
+    if (state_ == nullptr) {
+        return;
+    }
+    random_.reseedFromClock();
+    const int factor = chestFactor(random_.next());
+    state_->BonusAmount = static_cast<float>(factor) * state_->BonusAmount;
+    pay_->setText(QString::fromStdString(FormatMoney(state_->BonusAmount, pattern::kBonus)));
+    close_->show();
+}
+
+} // namespace marivale

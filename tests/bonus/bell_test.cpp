@@ -1,0 +1,101 @@
+// Qt
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Marivale
+#include "board/bell.h"
+
+using namespace marivale;
+
+namespace {
+
+// A short 8 kHz mono wave file of silence.
+QByteArray silentWave() {
+    constexpr quint32 kSamples = 800;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("RIFF", 4);
+    out << quint32(36 + kSamples * 2);
+    out.writeRawData("WAVEfmt ", 8);
+    out << quint32(16) << quint16(1) << quint16(1) << quint32(8000) << quint32(16000) << quint16(2)
+        << quint16(16);
+    out.writeRawData("data", 4);
+    out << quint32(kSamples * 2);
+    for (quint32 i = 0; i < kSamples; ++i) {
+        out << qint16(0);
+    }
+    return bytes;
+}
+
+} // namespace
+
+class BellTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void isTheBoardsMMControl1();
+    void recordsCommandsInOrder_data();
+    void recordsCommandsInOrder();
+
+private:
+    QString previousDir_{};
+    std::unique_ptr<QTemporaryDir> dir_{};
+};
+
+void BellTest::init() {
+    previousDir_ = QDir::currentPath();
+    dir_ = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir::setCurrent(dir_->path()));
+}
+
+void BellTest::cleanup() {
+    QDir::setCurrent(previousDir_);
+    dir_.reset();
+}
+
+void BellTest::isTheBoardsMMControl1() {
+    QObject board;
+    new Bell(&board);
+    QVERIFY(board.findChild<Bell*>(QStringLiteral("MMControl1")) != nullptr);
+}
+
+void BellTest::recordsCommandsInOrder_data() {
+    QTest::addColumn<bool>("withFile");
+    QTest::newRow("bell.wav present") << true;
+    QTest::newRow("bell.wav missing") << false;
+}
+
+// A board visit with two paying hands; with or without the sound (and with no audio device on
+// the test machine) every command returns at once and the game carries on.
+void BellTest::recordsCommandsInOrder() {
+    QFETCH(bool, withFile);
+    if (withFile) {
+        QFile file(QStringLiteral("bell.wav"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(silentWave());
+    }
+    Bell bell;
+    QSignalSpy issued(&bell, &Bell::commandIssued);
+    bell.open();
+    QCOMPARE(bell.hasSound(), withFile);
+    bell.play();
+    bell.prev();
+    QTest::qWait(50);
+    bell.play();
+    bell.prev();
+    bell.close();
+    QVERIFY(!bell.hasSound());
+    bell.play(); // after Close: silent, still recorded
+
+    const QStringList expected{"Open", "Play", "Prev", "Play", "Prev", "Close", "Play"};
+    QCOMPARE(bell.commands(), expected);
+    QCOMPARE(issued.size(), expected.size());
+    QCOMPARE(issued.at(1).at(0).toString(), QStringLiteral("Play"));
+}
+
+QTEST_MAIN(BellTest)
+#include "bell_test.moc"

@@ -1,0 +1,179 @@
+// Standard library
+#include <set>
+
+// Qt
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+// Marivale
+#include "bonus/treasure_hunt_dialog.h"
+#include "test_support.h"
+
+using namespace marivale;
+
+namespace {
+
+// One Treasure Hunt window over its own state and scripted random values.
+struct Hunt {
+    GameState state{};
+    testing::RecordingRandomSource random{};
+    TreasureHuntDialog dialog{random};
+
+    explicit Hunt(float bet) {
+        state.BonusAmount = bet;
+        state.Credits = 100;
+        state.BetAmount = bet;
+    }
+    QPushButton* button(const QString& name) { return dialog.findChild<QPushButton*>(name); }
+    QString pay() { return dialog.findChild<QLineEdit*>("TrPay")->text(); }
+
+    // Queues the value that gives this chest factor (3, 6, ... 30) and clicks the chest.
+    void choose(const QString& chest, int factor) {
+        random.scripted.pushIndex(factor / 3 - 1, 10);
+        QTest::mouseClick(button(chest), Qt::LeftButton);
+    }
+};
+
+} // namespace
+
+class TreasureHuntTest : public QObject {
+    Q_OBJECT
+private slots:
+    void opensWithNothingShown();
+    void chestMultipliesTheBet_data();
+    void chestMultipliesTheBet();
+    void furtherChestsMultiplyAgain();
+    void tenValuesGiveTheTenFactors();
+    void playWaitsUntilOpenChest();
+    void closedWithoutAChoicePaysOneBet();
+};
+
+void TreasureHuntTest::opensWithNothingShown() {
+    Hunt hunt(1.0F);
+    hunt.dialog.load(hunt.state);
+
+    QCOMPARE(hunt.dialog.objectName(), QStringLiteral("TrTrip"));
+    QCOMPARE(hunt.dialog.windowTitle(), QStringLiteral("Treasure Hunt"));
+    QCOMPARE(hunt.dialog.palette().color(QPalette::Window), QColor(0, 0, 192));
+    QCOMPARE(hunt.dialog.findChild<QLabel*>("Label1")->text(), QStringLiteral("Treasure Hunt"));
+    QCOMPARE(hunt.dialog.findChild<QLabel*>("Label2")->text(),
+             QStringLiteral("Select Your Bonus Treasure"));
+    for (const char* chest : {"Tr1", "Tr2", "Tr3"}) {
+        QVERIFY(hunt.button(chest)->text().isEmpty());
+        QVERIFY(!hunt.button(chest)->icon().isNull());
+    }
+    QVERIFY(hunt.pay().isEmpty());
+    QVERIFY(hunt.dialog.findChild<QLineEdit*>("TrPay")->isReadOnly());
+    QPushButton* close = hunt.button("TClose");
+    QCOMPARE(close->text(), QStringLiteral("&Open Chest"));
+    QVERIFY(!close->isVisible());
+    QCOMPARE(hunt.state.BonusAmount, 1.0F);
+    // The middle chest stands higher than the outer two.
+    QVERIFY(hunt.button("Tr2")->y() < hunt.button("Tr1")->y());
+    QCOMPARE(hunt.button("Tr1")->y(), hunt.button("Tr3")->y());
+}
+
+void TreasureHuntTest::chestMultipliesTheBet_data() {
+    QTest::addColumn<QString>("chest");
+    QTest::addColumn<float>("bet");
+    QTest::addColumn<int>("factor");
+    QTest::addColumn<float>("bonus");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("quarter times 3")
+        << QStringLiteral("Tr1") << 0.25F << 3 << 0.75F << QStringLiteral("$0.75");
+    QTest::newRow("200 times 30") << QStringLiteral("Tr2") << 200.0F << 30 << 6000.0F
+                                  << QStringLiteral("$6,000.00");
+    QTest::newRow("5 times 15") << QStringLiteral("Tr3") << 5.0F << 15 << 75.0F
+                                << QStringLiteral("$75.00");
+    QTest::newRow("1.25 times 27")
+        << QStringLiteral("Tr2") << 1.25F << 27 << 33.75F << QStringLiteral("$33.75");
+}
+
+void TreasureHuntTest::chestMultipliesTheBet() {
+    QFETCH(QString, chest);
+    QFETCH(float, bet);
+    QFETCH(int, factor);
+    QFETCH(float, bonus);
+    QFETCH(QString, shown);
+    Hunt hunt(bet);
+    hunt.dialog.load(hunt.state);
+    hunt.choose(chest, factor);
+
+    QCOMPARE(hunt.state.BonusAmount, bonus);
+    QCOMPARE(hunt.pay(), shown);
+    QVERIFY(hunt.button("TClose")->isVisible());
+    QCOMPARE(hunt.state.Credits, 100.0F);
+    QCOMPARE(hunt.state.BetAmount, bet);
+    // The source is reseeded from the clock before the chest's value is drawn.
+    QCOMPARE(hunt.random.log, (std::vector<std::string>{"reseed", "next"}));
+}
+
+// A factor of 30 after a factor of 3 is 90 times the bet.
+void TreasureHuntTest::furtherChestsMultiplyAgain() {
+    Hunt hunt(2.0F);
+    hunt.dialog.load(hunt.state);
+    hunt.choose("Tr1", 3);
+    QCOMPARE(hunt.pay(), QStringLiteral("$6.00"));
+    QVERIFY(hunt.button("Tr1")->isEnabled());
+    hunt.choose("Tr3", 30);
+    QCOMPARE(hunt.pay(), QStringLiteral("$180.00"));
+    QCOMPARE(hunt.state.BonusAmount, 180.0F);
+    testing::saveShot(hunt.dialog, QStringLiteral("TrTrip.png"));
+}
+
+// Values spread over [0, 1), edges included, give each of 3, 6, ... 30 and nothing else.
+void TreasureHuntTest::tenValuesGiveTheTenFactors() {
+    Hunt hunt(1.0F);
+    hunt.dialog.load(hunt.state);
+    std::set<int> seen;
+    for (int tenth = 0; tenth < 10; ++tenth) {
+        for (const double offset : {0.0, 0.05, 0.0999999}) {
+            hunt.state.BonusAmount = 1.0F;
+            hunt.random.scripted.push(tenth / 10.0 + offset);
+            QTest::mouseClick(hunt.button("Tr2"), Qt::LeftButton);
+            const int factor = static_cast<int>(hunt.state.BonusAmount);
+            QCOMPARE(factor, (tenth + 1) * 3);
+            seen.insert(factor);
+        }
+    }
+    QCOMPARE(seen, (std::set<int>{3, 6, 9, 12, 15, 18, 21, 24, 27, 30}));
+}
+
+// Settlement waits in play(); a chest and "&Open Chest" bring it back with the bonus.
+void TreasureHuntTest::playWaitsUntilOpenChest() {
+    Hunt hunt(0.25F);
+    hunt.random.scripted.pushIndex(0, 10);
+    QTimer::singleShot(0, &hunt.dialog, [&hunt] {
+        QTest::mouseClick(hunt.button("Tr2"), Qt::LeftButton);
+        QTest::mouseClick(hunt.button("TClose"), Qt::LeftButton);
+    });
+    BonusGame& bonus = hunt.dialog;
+    bonus.play(hunt.state);
+    QVERIFY(!hunt.dialog.isVisible());
+    QCOMPARE(hunt.state.BonusAmount, 0.75F);
+}
+
+void TreasureHuntTest::closedWithoutAChoicePaysOneBet() {
+    Hunt hunt(0.5F);
+    QTimer::singleShot(0, &hunt.dialog, [&hunt] { hunt.dialog.close(); });
+    hunt.dialog.play(hunt.state);
+    QCOMPARE(hunt.state.BonusAmount, 0.5F);
+    QVERIFY(hunt.random.log.empty());
+
+    // Opened again, the window starts clean.
+    hunt.random.scripted.pushIndex(1, 10);
+    QTimer::singleShot(0, &hunt.dialog, [&hunt] {
+        QVERIFY(hunt.pay().isEmpty());
+        QVERIFY(!hunt.button("TClose")->isVisible());
+        QTest::mouseClick(hunt.button("Tr1"), Qt::LeftButton);
+        hunt.dialog.close();
+    });
+    hunt.dialog.play(hunt.state);
+    QCOMPARE(hunt.state.BonusAmount, 3.0F);
+}
+
+QTEST_MAIN(TreasureHuntTest)
+#include "treasure_hunt_test.moc"

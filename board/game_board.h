@@ -20,6 +20,13 @@ public:
               QWidget* parent = nullptr);
     ~GameBoard() override;
 
+    // Closing the board in any way unloads it: remaining credits are cashed out and the visit's
+    // net joins NetWinLoss.
+    void done(int result) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     class Impl;
     std::unique_ptr<Impl> impl_;

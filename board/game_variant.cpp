@@ -38,7 +38,7 @@ constexpr std::array<GameVariant, 4> kVariants{{
      "WJBoard",
      "Wild Joker",
      "Joker Wild",
-     "Label3_1",
+     "Label31",
      "Deck Includes 1 Joker",
      "WJBtn",
      "&Joker Wild",

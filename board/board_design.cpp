@@ -1,0 +1,218 @@
+#include "board/board_design.h"
+
+// Qt
+#include <QDialog>
+#include <QFont>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+// Marivale
+#include "bonus/twips.h"
+#include "engine/pay_table.h"
+
+namespace marivale {
+
+namespace {
+
+// The purchase options, by index, in two columns of four.
+constexpr std::array<const char*, 8> kPurchaseCaptions{"$1,000.00", "$500.00", "$100.00", "$50.00",
+                                                       "$20.00",    "$10.00",  "$5.00",   "$1.00"};
+
+// Places of the controls, in twips, relative to their frame or the window.
+constexpr TwipRect kPayFrame{120, 120, 3240, 2880};
+constexpr TwipRect kCreditsFrame{120, 3120, 3240, 2400};
+constexpr TwipRect kTitle{3480, 60, 5880, 660};
+constexpr TwipRect kNote{3480, 720, 5880, 360};
+constexpr TwipRect kHelp{3480, 1200, 960, 420};
+constexpr TwipRect kExit{3480, 1740, 960, 420};
+constexpr TwipRect kCreditPanel{4560, 1200, 1800, 660};
+constexpr TwipRect kBetPanel{4560, 1920, 1800, 420};
+constexpr TwipRect kResultsPanel{6480, 1200, 1800, 1140};
+constexpr TwipRect kBetUp{8400, 1200, 960, 480};
+constexpr TwipRect kBetDn{8400, 1800, 960, 480};
+constexpr TwipRect kStand{3420, 4440, 1150, 480};
+constexpr TwipRect kOutput{4620, 4440, 3550, 480};
+constexpr TwipRect kDrawDeal{8220, 4440, 1150, 480};
+constexpr TwipRect kStatsFrame{120, 5640, 9240, 1035};
+constexpr int kCardLeft = 3420;
+constexpr int kCardStep = 1200;
+constexpr int kCardTop = 2790;
+constexpr int kCardWidth = 1150;
+constexpr int kCardHeight = 1550;
+constexpr int kHoldTop = 2460;
+constexpr int kHoldHeight = 300;
+// Amount box widths of the pay table: the top three rows widest, the bottom three narrowest.
+constexpr std::array<int, 3> kPayBoxWidths{1260, 1080, 900};
+
+constexpr qreal kTextPoints = 8.25;
+
+QString rgb(Rgb colour) {
+    return QStringLiteral("rgb(%1,%2,%3)").arg(colour.red).arg(colour.green).arg(colour.blue);
+}
+
+// The two schemes: board colour with white text, and black panels in the display colour.
+QString styleSheet(const GameVariant& v) {
+    const QString board = rgb(v.boardColour);
+    const QString display = rgb(v.displayColour);
+    return QStringLiteral(
+               "QDialog { background: %1; }"
+               "QLabel, QRadioButton { color: white; background: transparent; }"
+               "QGroupBox { color: white; border: 1px solid white; border-radius: 3px;"
+               " margin-top: 7px; }"
+               "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }"
+               "QLineEdit { background: %1; color: white; border: 1px solid white; }"
+               "QRadioButton::indicator { width: 9px; height: 9px; border-radius: 5px;"
+               " border: 1px solid white; background: %1; }"
+               "QRadioButton::indicator:checked { background: white; }"
+               "QFrame[scheme=\"display\"] { background: black; border: 1px solid #404040; }"
+               "QFrame[scheme=\"display\"] QLabel, QLabel[scheme=\"display\"] { color: %2;"
+               " background: black; border: none; }"
+               "QFrame[scheme=\"display\"] QLineEdit { background: black; color: %2;"
+               " border: 1px solid #505050; }")
+        .arg(board, display);
+}
+
+template <typename W> W* place(W* widget, QWidget& parent, const char* name, TwipRect rect) {
+    widget->setParent(&parent);
+    widget->setObjectName(QString::fromLatin1(name));
+    widget->setGeometry(fromTwips(rect));
+    return widget;
+}
+
+QLabel* label(QWidget& parent, const char* name, const QString& text, TwipRect rect,
+              Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
+    auto* l = place(new QLabel(text), parent, name, rect);
+    l->setTextFormat(Qt::PlainText);
+    l->setAlignment(align);
+    return l;
+}
+
+QLineEdit* field(QWidget& parent, const char* name, TwipRect rect) {
+    auto* f = place(new QLineEdit, parent, name, rect);
+    f->setReadOnly(true);
+    f->setFocusPolicy(Qt::NoFocus);
+    f->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return f;
+}
+
+QPushButton* button(QWidget& parent, const char* name, const char* caption, TwipRect rect) {
+    return place(new QPushButton(QString::fromLatin1(caption)), parent, name, rect);
+}
+
+QFrame* panel(QWidget& parent, const char* name, TwipRect rect) {
+    auto* frame = place(new QFrame, parent, name, rect);
+    frame->setProperty("scheme", "display");
+    return frame;
+}
+
+void buildPayTable(QDialog& window, const GameVariant& v, BoardWidgets& w) {
+    QFrame* frame = panel(window, "Frame1", kPayFrame);
+    const PayTable& table = payTable(v.game);
+    for (int row = 0; row < kPayRows; ++row) {
+        const int top = 90 + row * 300;
+        const int boxWidth = kPayBoxWidths[static_cast<std::size_t>(row / 3)];
+        const QString captionName = QStringLiteral("PayLabel%1").arg(row);
+        w.payCaptions[row] = label(
+            *frame, "", QString::fromLatin1(table[row].caption.data(), table[row].caption.size()),
+            {90, top, 1860, 270});
+        w.payCaptions[row]->setObjectName(captionName);
+        w.payBoxes[row] = field(*frame, "", {kPayFrame.width - 90 - boxWidth, top, boxWidth, 270});
+        w.payBoxes[row]->setObjectName(
+            QString::fromLatin1(table[row].box.data(), static_cast<int>(table[row].box.size())));
+    }
+}
+
+void buildPurchase(QDialog& window, BoardWidgets& w) {
+    auto* frame = place(new QGroupBox(QStringLiteral("Credits")), window, "Frame2", kCreditsFrame);
+    for (int i = 0; i < 8; ++i) {
+        const TwipRect rect{i < 4 ? 240 : 1740, 360 + (i % 4) * 360, 1380, 300};
+        auto* option =
+            place(new QRadioButton(QString::fromLatin1(kPurchaseCaptions[i])), *frame, "", rect);
+        option->setObjectName(QStringLiteral("POption%1").arg(i));
+        w.purchaseOptions[i] = option;
+    }
+    w.purchaseOptions[4]->setChecked(true);
+    w.purchase = button(*frame, "Purchase", "&Purchase", {870, 1860, 1500, 420});
+}
+
+void buildPanels(QDialog& window, BoardWidgets& w) {
+    QFrame* credit = panel(window, "Frame3", kCreditPanel);
+    label(*credit, "CreditLabel", QStringLiteral("Credit"), {60, 30, 1680, 270}, Qt::AlignCenter);
+    w.credit = field(*credit, "Credit", {60, 330, 1680, 300});
+    QFrame* bet = panel(window, "Frame4", kBetPanel);
+    label(*bet, "BetLabel", QStringLiteral("Bet"), {60, 60, 600, 300});
+    w.bet = field(*bet, "Bet", {720, 60, 1020, 300});
+    QFrame* results = panel(window, "Frame5", kResultsPanel);
+    label(*results, "ResultsLabel", QStringLiteral("Results"), {60, 30, 1680, 270},
+          Qt::AlignCenter);
+    label(*results, "WinLabel", QStringLiteral("Win"), {60, 360, 480, 300});
+    w.win = field(*results, "Win", {600, 360, 1140, 300});
+    label(*results, "LastLabel", QStringLiteral("Last"), {60, 720, 480, 300});
+    w.last = field(*results, "Last", {600, 720, 1140, 300});
+}
+
+void buildCards(QDialog& window, BoardWidgets& w) {
+    for (int p = 0; p < 5; ++p) {
+        const int left = kCardLeft + p * kCardStep;
+        w.holdMarks[p] = label(window, "", QString(), {left, kHoldTop, kCardWidth, kHoldHeight},
+                               Qt::AlignCenter);
+        w.holdMarks[p]->setObjectName(QStringLiteral("Card%1Ind").arg(p));
+        w.holdMarks[p]->setProperty("scheme", "display");
+        w.cards[p] = button(window, "", "", {left, kCardTop, kCardWidth, kCardHeight});
+        w.cards[p]->setObjectName(QStringLiteral("Card%1").arg(p));
+    }
+    w.stand = button(window, "Stand", "&Cash Out", kStand);
+    w.output = label(window, "Output2", QString(), kOutput, Qt::AlignCenter);
+    w.output->setProperty("scheme", "display");
+    w.drawDeal = button(window, "DrawDeal", "&Deal", kDrawDeal);
+}
+
+void buildStatistics(QDialog& window, BoardWidgets& w) {
+    auto* frame =
+        place(new QGroupBox(QStringLiteral("Play Statistics")), window, "Frame6", kStatsFrame);
+    label(*frame, "PurchasedLabel", QStringLiteral("Credits Purchased"), {150, 420, 1860, 300});
+    w.totPurchased = field(*frame, "TotPurchased", {2040, 390, 1320, 330});
+    label(*frame, "WinningsLabel", QStringLiteral("Winnings"), {3600, 420, 900, 300});
+    w.totWinGame = field(*frame, "TotWinGame", {4500, 390, 1320, 330});
+    w.plTitle = label(*frame, "PLTitle", QStringLiteral("Net Winnings"), {6060, 420, 1320, 300});
+    w.profLoss = field(*frame, "ProfLoss", {7440, 390, 1320, 330});
+}
+
+} // namespace
+
+BoardWidgets buildBoard(QDialog& window, const GameVariant& v) {
+    BoardWidgets w;
+    window.setObjectName(QString::fromLatin1(v.boardName.data(), v.boardName.size()));
+    window.setWindowTitle(QString::fromLatin1(v.windowCaption.data(), v.windowCaption.size()));
+    window.setFixedSize(kBoardWidthTwips / kTwipsPerPixel, kBoardHeightTwips / kTwipsPerPixel);
+    window.setFont(designFont(kTextPoints, true));
+    window.setStyleSheet(styleSheet(v));
+
+    w.title = label(window, "Label1", QString::fromLatin1(v.title.data(), v.title.size()), kTitle,
+                    Qt::AlignCenter);
+    QFont titleFont = designFont(24, true);
+    titleFont.setItalic(true);
+    w.title->setFont(titleFont);
+    if (!v.noteName.empty()) {
+        w.note = label(window, "", QString::fromLatin1(v.noteText.data(), v.noteText.size()), kNote,
+                       Qt::AlignCenter);
+        w.note->setObjectName(QString::fromLatin1(v.noteName.data(), v.noteName.size()));
+        w.note->setFont(designFont(12, true));
+    }
+    buildPayTable(window, v, w);
+    buildPurchase(window, w);
+    w.help = button(window, "Help", "&Help", kHelp);
+    w.exit = button(window, "Exit", "E&xit", kExit);
+    buildPanels(window, w);
+    w.betUp = button(window, "BetUp", "Bet &Up", kBetUp);
+    w.betDn = button(window, "BetDn", "Bet D&n", kBetDn);
+    buildCards(window, w);
+    buildStatistics(window, w);
+    return w;
+}
+
+} // namespace marivale

@@ -1,0 +1,293 @@
+#include "board/game_board.h"
+
+// Standard library
+#include <map>
+
+// Qt
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+// Marivale
+#include "board/advisor/strategy_window.h"
+#include "board/bell.h"
+#include "board/board_design.h"
+#include "board/card_pictures.h"
+#include "board/play_controller.h"
+#include "bonus/double_up_dialog.h"
+#include "bonus/treasure_hunt_dialog.h"
+#include "shell/help_dialog.h"
+
+namespace marivale {
+
+// The window's side of the board: it shows what the controller tells it and opens the modal
+// windows the controller asks for.
+class GameBoard::Impl final : public BoardView, public BonusGame {
+public:
+    Impl(GameBoard& window, const GameVariant& variant, GameState& state, RandomSource& random)
+        : window_(window), variant_(variant), state_(state), random_(random),
+          widgets_(buildBoard(window, variant)), bell_(new Bell(&window)),
+          controller_(variant, state, random, *this) {
+        mapControls();
+        connectClicks();
+        controller_.load();
+    }
+
+    void setText(Control control, std::string_view text) override;
+    std::string_view text(Control control) const override;
+    void setEnabled(Control control, bool enabled) override;
+    void setPayText(int row, std::string_view text) override;
+    int selectedPurchase() const override;
+    void showCards() override;
+    void showCardBacks() override;
+    void bell(BellCommand command) override;
+    void runDoubleUp() override;
+    BonusGame& treasureHunt() override { return *this; }
+    void play(GameState& state) override;
+    void handDealt() override;
+    void handPlayed(const std::array<bool, 5>& held) override;
+    void betChanged() override;
+
+    // Runs the board's unload once, however the window goes away.
+    void unloadOnce();
+    void toggleStrategy();
+
+private:
+    void mapControls();
+    void connectClicks();
+    void checkPictures();
+
+    GameBoard& window_;
+    const GameVariant& variant_;
+    GameState& state_;
+    RandomSource& random_;
+    BoardWidgets widgets_;
+    CardPictures pictures_{};
+    Bell* bell_{nullptr};
+    PlayController controller_;
+    std::map<Control, QWidget*> controls_{};
+    std::map<Control, std::string> texts_{};
+    StrategyWindow* strategy_{nullptr};
+    bool unloaded_{false};
+    bool toldMissing_{false};
+};
+
+void GameBoard::Impl::mapControls() {
+    const BoardWidgets& w = widgets_;
+    controls_ = {
+        {Control::DrawDeal, w.drawDeal},
+        {Control::Stand, w.stand},
+        {Control::Purchase, w.purchase},
+        {Control::BetUp, w.betUp},
+        {Control::BetDn, w.betDn},
+        {Control::Exit, w.exit},
+        {Control::Credit, w.credit},
+        {Control::Bet, w.bet},
+        {Control::Win, w.win},
+        {Control::Last, w.last},
+        {Control::TotPurchased, w.totPurchased},
+        {Control::TotWinGame, w.totWinGame},
+        {Control::ProfLoss, w.profLoss},
+        {Control::PLTitle, w.plTitle},
+        {Control::Output2, w.output},
+    };
+    for (int p = 0; p < 5; ++p) {
+        controls_[holdMark(p)] = w.holdMarks[p];
+    }
+}
+
+void GameBoard::Impl::connectClicks() {
+    const BoardWidgets& w = widgets_;
+    PlayController* c = &controller_;
+    QObject::connect(w.drawDeal, &QPushButton::clicked, &window_, [c] { c->drawDealClicked(); });
+    QObject::connect(w.stand, &QPushButton::clicked, &window_, [c] { c->standClicked(); });
+    QObject::connect(w.purchase, &QPushButton::clicked, &window_, [c] { c->purchaseClicked(); });
+    QObject::connect(w.betUp, &QPushButton::clicked, &window_, [c] { c->betUpClicked(); });
+    QObject::connect(w.betDn, &QPushButton::clicked, &window_, [c] { c->betDnClicked(); });
+    QObject::connect(w.exit, &QPushButton::clicked, &window_, &QDialog::close);
+    QObject::connect(w.help, &QPushButton::clicked, &window_, [this] {
+        HelpDialog help(&window_);
+        help.exec();
+    });
+    for (int p = 0; p < 5; ++p) {
+        QObject::connect(w.cards[p], &QPushButton::clicked, &window_,
+                         [c, p] { c->cardClicked(p); });
+    }
+}
+
+void GameBoard::Impl::setText(Control control, std::string_view text) {
+    texts_[control] = std::string(text);
+    const QString value = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    QWidget* widget = controls_.at(control);
+    if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+        edit->setText(value);
+    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+        label->setText(value);
+    } else if (auto* button = qobject_cast<QPushButton*>(widget)) {
+        button->setText(value);
+    }
+}
+
+std::string_view GameBoard::Impl::text(Control control) const {
+    const auto found = texts_.find(control);
+    return found == texts_.end() ? std::string_view{} : std::string_view{found->second};
+}
+
+void GameBoard::Impl::setEnabled(Control control, bool enabled) {
+    controls_.at(control)->setEnabled(enabled);
+}
+
+void GameBoard::Impl::setPayText(int row, std::string_view text) {
+    widgets_.payBoxes.at(static_cast<std::size_t>(row))
+        ->setText(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+}
+
+int GameBoard::Impl::selectedPurchase() const {
+    for (int i = 0; i < 8; ++i) {
+        if (widgets_.purchaseOptions[i]->isChecked()) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void GameBoard::Impl::showCards() {
+    for (int p = 0; p < 5; ++p) {
+        const int code = static_cast<int>(state_.Hand[p]);
+        pictures_.showOn(*widgets_.cards[p],
+                         QString::fromStdString(pictureFileName(variant_.game, code)));
+    }
+    checkPictures();
+}
+
+void GameBoard::Impl::showCardBacks() {
+    for (QPushButton* card : widgets_.cards) {
+        pictures_.showOn(*card, QString::fromLatin1(kCardBackFile.data(), kCardBackFile.size()));
+    }
+    checkPictures();
+}
+
+// Tells the player once which pictures are missing; play goes on with drawn cards.
+void GameBoard::Impl::checkPictures() {
+    if (toldMissing_ || pictures_.missingFiles().isEmpty()) {
+        return;
+    }
+    toldMissing_ = true;
+    QTimer::singleShot(0, &window_, [this] {
+        auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Card Pictures Missing"),
+                                    QStringLiteral("These card pictures could not be loaded from "
+                                                   "the game folder, so plain cards are drawn "
+                                                   "instead:\n\n%1")
+                                        .arg(pictures_.missingFiles().join(QStringLiteral(", "))),
+                                    QMessageBox::Ok, &window_);
+        box->setObjectName(QStringLiteral("MissingPictures"));
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    });
+}
+
+void GameBoard::Impl::bell(BellCommand command) {
+    switch (command) {
+    case BellCommand::Open:
+        bell_->open();
+        break;
+    case BellCommand::Play:
+        bell_->play();
+        break;
+    case BellCommand::Prev:
+        bell_->prev();
+        break;
+    case BellCommand::Close:
+        bell_->close();
+        break;
+    }
+}
+
+void GameBoard::Impl::runDoubleUp() {
+    DoubleUpDialog dialog(state_, random_, pictures_, &window_);
+    dialog.exec();
+}
+
+// The Treasure Hunt window is built afresh for every bonus.
+void GameBoard::Impl::play(GameState& state) {
+    TreasureHuntDialog dialog(random_, &window_);
+    dialog.play(state);
+}
+
+void GameBoard::Impl::handDealt() {
+    if (strategy_ != nullptr) {
+        strategy_->handDealt();
+    }
+}
+
+void GameBoard::Impl::handPlayed(const std::array<bool, 5>& held) {
+    if (strategy_ != nullptr) {
+        strategy_->handPlayed(held);
+    }
+}
+
+void GameBoard::Impl::betChanged() {
+    if (strategy_ != nullptr) {
+        strategy_->betChanged();
+    }
+}
+
+// F2 opens the Strategy companion beside the board, or closes it.
+void GameBoard::Impl::toggleStrategy() {
+    if (strategy_ == nullptr) {
+        strategy_ = new StrategyWindow(variant_.game, state_, &window_);
+        if (state_.DrawPhase == 1) {
+            strategy_->handDealt();
+        }
+    }
+    if (strategy_->isVisible()) {
+        strategy_->hide();
+        return;
+    }
+    strategy_->move(window_.frameGeometry().topRight() + QPoint(8, 0));
+    strategy_->show();
+    strategy_->raise();
+}
+
+void GameBoard::Impl::unloadOnce() {
+    if (unloaded_) {
+        return;
+    }
+    unloaded_ = true;
+    if (strategy_ != nullptr) {
+        strategy_->close();
+    }
+    controller_.unload();
+}
+
+GameBoard::GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
+                     QWidget* parent)
+    : QDialog(parent), impl_(std::make_unique<Impl>(*this, variant, state, random)) {}
+
+GameBoard::~GameBoard() {
+    impl_->unloadOnce();
+}
+
+// F2 opens or closes the Strategy window; Escape never ends a visit by accident.
+void GameBoard::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F2) {
+        impl_->toggleStrategy();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        event->ignore();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void GameBoard::done(int result) {
+    impl_->unloadOnce();
+    QDialog::done(result);
+}
+
+} // namespace marivale

@@ -1,0 +1,47 @@
+#pragma once
+
+// A real board window on its own state and a scripted random source, with helpers to click its
+// controls by objectName and to answer the modal windows it opens.
+
+#include <functional>
+#include <memory>
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QString>
+
+#include "board/game_board.h"
+#include "engine/random_source.h"
+#include "state/game_state.h"
+
+namespace marivale::testing {
+
+struct BoardFixture {
+    explicit BoardFixture(GameId game, float netWinLoss = 0.0f, float playUnit = 0.25f,
+                          bool doubleUp = false);
+    ~BoardFixture();
+
+    template <typename W = QWidget> W* find(const QString& name) const {
+        return board->findChild<W*>(name);
+    }
+    QString text(const QString& name) const;
+    // Clicks an enabled button by objectName.
+    void click(const QString& name);
+    // Queues the cards of the next deal or draw, one per position ("As Kd 3c 4h 5s").
+    void script(const char* cards);
+    void buy(int option);
+    // The picture file shown on a card button.
+    QString picture(int position) const;
+
+    GameId game;
+    GameState state{};
+    ScriptedRandomSource random{};
+    std::unique_ptr<GameBoard> board;
+};
+
+// Answers the next modal window with the given action, from inside its own event loop.
+void answerModal(std::function<void(QWidget&)> action);
+// Clicks a button of a modal window.
+void clickIn(QWidget& window, const QString& name);
+
+} // namespace marivale::testing

@@ -1,0 +1,337 @@
+// The real board windows, driven by their controls: design, a whole hand on every path, the
+// modal windows, money boxes with their patterns, and closing in the middle of a hand.
+
+#include <QtTest>
+
+// Qt
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+// Marivale
+#include "board/bell.h"
+#include "board_fixture.h"
+
+using namespace marivale;
+using marivale::testing::answerModal;
+using marivale::testing::BoardFixture;
+using marivale::testing::clickIn;
+
+Q_DECLARE_METATYPE(marivale::GameId)
+
+class BoardPlayTest : public QObject {
+    Q_OBJECT
+private slots:
+    void design_data();
+    void design();
+    void refusedDealThenDrawToAFlush();
+    void picturesFollowTheBoard_data();
+    void picturesFollowTheBoard();
+    void doubleUpWonAndLost();
+    void treasureHuntPaysTheChest();
+    void cashOutAndBetLimits();
+    void closingMidHandFoldsTheVisit();
+    void helpLeavesTheHandAlone();
+    void missingPicturesAreToldOnce();
+    void strategyWindowOnF2();
+};
+
+void BoardPlayTest::design_data() {
+    QTest::addColumn<GameId>("game");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("noteName");
+    QTest::addColumn<QString>("note");
+    QTest::addColumn<QColor>("colour");
+    QTest::addColumn<QStringList>("payTable");
+    QTest::newRow("TT") << GameId::TreasureTrips << "TTBoard"
+                        << "Treasure Trips"
+                        << "Treasure Trips"
+                        << "Label10"
+                        << "Win Bonus for 3 or More 3's" << QColor(0, 0, 128)
+                        << QStringList{"$62.50", "$25.00", "$12.50", "$3.75", "$2.00",
+                                       "$1.25",  "$0.75",  "$0.25",  "$0.25"};
+    QTest::newRow("DW") << GameId::DeucesWild << "DWBoard"
+                        << "Deuces Wild"
+                        << "Deuces Wild"
+                        << ""
+                        << "" << QColor(0, 128, 0)
+                        << QStringList{"$62.50", "$50.00", "$6.25", "$4.00", "$3.00",
+                                       "$1.00",  "$0.75",  "$0.25", "$0.25"};
+    QTest::newRow("WJ") << GameId::JokerWild << "WJBoard"
+                        << "Wild Joker"
+                        << "Joker Wild"
+                        << "Label31"
+                        << "Deck Includes 1 Joker" << QColor(128, 0, 0)
+                        << QStringList{"$50.00", "$25.00", "$12.50", "$3.75", "$2.50",
+                                       "$1.25",  "$0.75",  "$0.25",  "$0.25"};
+    QTest::newRow("JB") << GameId::JacksOrBetter << "JBBoard"
+                        << "Jacks or Better"
+                        << "Jacks or Better"
+                        << "Label10"
+                        << "Pays For Pair Jacks or More" << QColor(0, 128, 128)
+                        << QStringList{"$62.50", "$25.00", "$6.25", "$2.00", "$1.25",
+                                       "$1.00",  "$0.75",  "$0.25", "0.25"};
+}
+
+void BoardPlayTest::design() {
+    QFETCH(GameId, game);
+    QFETCH(QString, name);
+    QFETCH(QString, caption);
+    QFETCH(QString, title);
+    QFETCH(QString, noteName);
+    QFETCH(QString, note);
+    QFETCH(QColor, colour);
+    QFETCH(QStringList, payTable);
+    BoardFixture t(game);
+    QCOMPARE(t.board->objectName(), name);
+    QCOMPARE(t.board->windowTitle(), caption);
+    QCOMPARE(t.board->size(), QSize(632, 453));
+    QCOMPARE(t.text("Label1"), title);
+    if (noteName.isEmpty()) {
+        QVERIFY(t.find("Label10") == nullptr && t.find("Label31") == nullptr);
+    } else {
+        QCOMPARE(t.text(noteName), note);
+    }
+    const QImage shot = t.board->grab().toImage();
+    QCOMPARE(shot.pixelColor(560, 350), colour);
+    const char* boxes[4][9] = {{"FiveKind", "Royal", "StraightF", "FourKind", "FullHouse", "Flush",
+                                "Straight", "ThreeKind", "TwoPair"},
+                               {"NRoyal", "FourDeuces", "WRoyal", "FiveKind", "StraightF",
+                                "FourKind", "FullHouse", "Flush", "ThreeKind"},
+                               {"FiveKind", "Royal", "StraightF", "FourKind", "FullHouse", "Flush",
+                                "Straight", "ThreeKind", "TwoPair"},
+                               {"Royal", "StraightF", "FourKind", "FullHouse", "Flush", "Straight",
+                                "ThreeKind", "TwoPair", "Pair"}};
+    for (int row = 0; row < 9; ++row) {
+        QCOMPARE(t.text(QString::fromLatin1(boxes[static_cast<int>(game)][row])), payTable[row]);
+    }
+    QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Deal"));
+    QCOMPARE(t.text("Stand"), QStringLiteral("&Cash Out"));
+    QCOMPARE(t.text("Credit"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("Bet"), QStringLiteral("$0.25"));
+    QCOMPARE(t.text("Win"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("Last"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("TotPurchased"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("TotWinGame"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("ProfLoss"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Winnings"));
+    QCOMPARE(t.text("Purchase"), QStringLiteral("&Purchase"));
+    QCOMPARE(t.text("BetUp"), QStringLiteral("Bet &Up"));
+    QCOMPARE(t.text("BetDn"), QStringLiteral("Bet D&n"));
+    QCOMPARE(t.text("Help"), QStringLiteral("&Help"));
+    QCOMPARE(t.text("Exit"), QStringLiteral("E&xit"));
+    QCOMPARE(t.text("POption0"), QStringLiteral("$1,000.00"));
+    QCOMPARE(t.text("POption7"), QStringLiteral("$1.00"));
+    QVERIFY(t.find<QRadioButton>("POption4")->isChecked());
+    for (int p = 0; p < 5; ++p) {
+        QCOMPARE(t.picture(p), QStringLiteral("bb.gif"));
+        QCOMPARE(t.text(QStringLiteral("Card%1Ind").arg(p)), QString());
+    }
+}
+
+void BoardPlayTest::refusedDealThenDrawToAFlush() {
+    BoardFixture t(GameId::JacksOrBetter, 0.0f, 1.0f);
+    t.click("DrawDeal");
+    QCOMPARE(t.text("Output2"), QStringLiteral("Not Enough Credits To Play"));
+    QCOMPARE(t.state.DrawPhase, 0);
+    t.buy(4);
+    QCOMPARE(t.text("Credit"), QStringLiteral("$20.00"));
+    QCOMPARE(t.text("ProfLoss"), QStringLiteral("-$20.00"));
+    QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Losses"));
+    t.script("2h 5h 9h Jh Kd");
+    t.click("DrawDeal");
+    QCOMPARE(t.text("Output2"), QString());
+    QCOMPARE(t.text("DrawDeal"), QStringLiteral("D&raw"));
+    QCOMPARE(t.text("Stand"), QStringLiteral("&Stand"));
+    QCOMPARE(t.text("Credit"), QStringLiteral("$19.00"));
+    for (const char* name : {"Purchase", "BetUp", "BetDn", "Exit"}) {
+        QVERIFY(!t.find(name)->isEnabled());
+    }
+    for (int p = 0; p < 4; ++p) {
+        t.click(QStringLiteral("Card%1").arg(p));
+    }
+    QCOMPARE(t.text("Card3Ind"), QStringLiteral("Hold"));
+    t.script("Ks Ks Ks Ks 3h");
+    t.click("DrawDeal");
+    QCOMPARE(t.text("Output2"), QStringLiteral("Flush"));
+    QCOMPARE(t.text("Win"), QStringLiteral("$5.00"));
+    QCOMPARE(t.text("Credit"), QStringLiteral("$24.00"));
+    QCOMPARE(t.text("Card3Ind"), QString());
+    QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Deal"));
+    QVERIFY(t.find("Exit")->isEnabled());
+    const auto* bell = t.board->findChild<Bell*>("MMControl1");
+    QVERIFY(bell != nullptr);
+    QCOMPARE(bell->commands(), (QStringList{"Open", "Play", "Prev"}));
+}
+
+void BoardPlayTest::picturesFollowTheBoard_data() {
+    QTest::addColumn<GameId>("game");
+    QTest::addColumn<QStringList>("pictures");
+    QTest::newRow("TT") << GameId::TreasureTrips
+                        << QStringList{"41T.gif", "52.gif", "1.gif", "2T.gif", "14.gif"};
+    QTest::newRow("DW") << GameId::DeucesWild
+                        << QStringList{"41.gif", "27W.gif", "1W.gif", "2.gif", "14W.gif"};
+    QTest::newRow("JB") << GameId::JacksOrBetter
+                        << QStringList{"41.gif", "27.gif", "1.gif", "2.gif", "14.gif"};
+}
+
+void BoardPlayTest::picturesFollowTheBoard() {
+    QFETCH(GameId, game);
+    QFETCH(QStringList, pictures);
+    BoardFixture t(game, 5.0f);
+    t.script(game == GameId::TreasureTrips ? "3s Jk 2c 3c 2d" : "3s 2h 2c 3c 2d");
+    t.click("DrawDeal");
+    for (int p = 0; p < 5; ++p) {
+        QCOMPARE(t.picture(p), pictures[p]);
+    }
+}
+
+void BoardPlayTest::doubleUpWonAndLost() {
+    for (const bool win : {true, false}) {
+        BoardFixture t(GameId::JacksOrBetter, 0.0f, 1.0f, true);
+        t.buy(4);
+        t.script("2h 5h 9h Jh Kh");
+        t.click("DrawDeal");
+        t.click("Stand");
+        QCOMPARE(t.text("Stand"), QStringLiteral("&Double      Up"));
+        QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Take Score"));
+        QCOMPARE(t.text("Output2"), QString());
+        t.random.pushIndex(7, 52);  // an Eight is drawn again
+        t.random.pushIndex(26, 52); // the Ace of suit 2
+        t.random.pushIndex(4, 52);  // a Five
+        QString retCaption;
+        answerModal([&](QWidget& dup) {
+            QCOMPARE(dup.objectName(), QStringLiteral("frmDup"));
+            clickIn(dup, "High");
+            clickIn(dup, win ? "Low" : "High");
+            retCaption = dup.findChild<QAbstractButton*>("RetBtn")->text();
+            clickIn(dup, "RetBtn");
+        });
+        t.click("Stand");
+        QCOMPARE(retCaption,
+                 win ? QStringLiteral("&Take Doubled Winnings") : QStringLiteral("Re&turn"));
+        QCOMPARE(t.text("Win"), win ? QStringLiteral("$20.00") : QStringLiteral("$0.00"));
+        QCOMPARE(t.text("Credit"), win ? QStringLiteral("$39.00") : QStringLiteral("$19.00"));
+        QCOMPARE(t.text("Output2"), win ? QStringLiteral("Flush") : QString());
+        QCOMPARE(t.picture(0), QStringLiteral("bb.gif"));
+        QCOMPARE(t.state.DoubleUpFactor, 0);
+        QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Deal"));
+    }
+}
+
+void BoardPlayTest::treasureHuntPaysTheChest() {
+    BoardFixture t(GameId::TreasureTrips, 0.0f, 1.0f, true);
+    t.buy(4);
+    t.script("3s 3d 3h Jk Kd");
+    t.click("DrawDeal");
+    t.random.push(0.35); // factor 12
+    QString shown;
+    answerModal([&](QWidget& hunt) {
+        QCOMPARE(hunt.objectName(), QStringLiteral("TrTrip"));
+        QVERIFY(!hunt.findChild<QWidget*>("TClose")->isVisible());
+        clickIn(hunt, "Tr2");
+        shown = hunt.findChild<QLineEdit*>("TrPay")->text();
+        clickIn(hunt, "TClose");
+    });
+    t.click("Stand");
+    QCOMPARE(shown, QStringLiteral("$12.00"));
+    QCOMPARE(t.text("Output2"), QStringLiteral("Four of a Kind"));
+    QCOMPARE(t.text("Win"), QStringLiteral("$27.00"));
+    QCOMPARE(t.text("Credit"), QStringLiteral("$46.00"));
+    QCOMPARE(t.picture(4), QStringLiteral("bb.gif"));
+    QCOMPARE(t.state.DrawPhase, 0);
+}
+
+void BoardPlayTest::cashOutAndBetLimits() {
+    BoardFixture t(GameId::DeucesWild, 9.75f);
+    t.click("Stand");
+    QCOMPARE(t.text("Output2"), QStringLiteral("Credits Must Be > $10.00 to Cash Out"));
+    t.buy(7);
+    t.click("Stand");
+    QCOMPARE(t.text("Credit"), QStringLiteral("$0.00"));
+    QCOMPARE(t.text("TotWinGame"), QStringLiteral("$10.75"));
+    QCOMPARE(t.text("ProfLoss"), QStringLiteral("9.75"));
+    QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Winnings"));
+    QCOMPARE(t.text("Output2"), QStringLiteral("Credits Must Be > $10.00 to Cash Out"));
+    for (int i = 0; i < 20; ++i) {
+        t.click("BetUp");
+    }
+    QCOMPARE(t.text("Bet"), QStringLiteral("$5.00"));
+    QCOMPARE(t.text("NRoyal"), QStringLiteral("$1,250.00"));
+    QCOMPARE(t.text("ThreeKind"), QStringLiteral("$5.00"));
+    for (int i = 0; i < 20; ++i) {
+        t.click("BetDn");
+    }
+    QCOMPARE(t.text("Bet"), QStringLiteral("$0.25"));
+}
+
+void BoardPlayTest::closingMidHandFoldsTheVisit() {
+    BoardFixture t(GameId::JokerWild, 30.0f, 1.0f, true);
+    t.script("As Ad 9h 4s 2d");
+    t.click("DrawDeal");
+    t.click("Stand");
+    QCOMPARE(t.state.DrawPhase, 2);
+    t.board->close();
+    QCOMPARE(t.state.NetWinLoss, 29.0f);
+    t.board.reset();
+    QCOMPARE(t.state.NetWinLoss, 29.0f);
+    BoardFixture next(GameId::JokerWild, t.state.NetWinLoss);
+    QCOMPARE(next.state.DrawPhase, 0);
+    QCOMPARE(next.text("Credit"), QStringLiteral("$29.00"));
+}
+
+void BoardPlayTest::helpLeavesTheHandAlone() {
+    BoardFixture t(GameId::JacksOrBetter, 10.0f);
+    t.script("Jc Jd 9h 4s 2d");
+    t.click("DrawDeal");
+    t.click("Card1");
+    QString opened;
+    answerModal([&](QWidget& help) {
+        opened = help.objectName();
+        clickIn(help, "Command1");
+    });
+    t.click("Help");
+    QCOMPARE(opened, QStringLiteral("frmHelp"));
+    QCOMPARE(t.state.DrawPhase, 1);
+    QCOMPARE(t.text("Card1Ind"), QStringLiteral("Hold"));
+    QCOMPARE(t.state.Credits, 9.75f);
+}
+
+void BoardPlayTest::missingPicturesAreToldOnce() {
+    const QString home = QDir::currentPath();
+    QTemporaryDir empty;
+    QVERIFY(QDir::setCurrent(empty.path()));
+    {
+        BoardFixture t(GameId::JacksOrBetter, 10.0f);
+        QTRY_VERIFY(t.board->findChild<QMessageBox*>("MissingPictures") != nullptr);
+        auto* box = t.board->findChild<QMessageBox*>("MissingPictures");
+        QVERIFY(box->text().contains("bb.gif"));
+        box->close();
+        QCoreApplication::processEvents();
+        t.script("Jc Jd 9h 4s 2d");
+        t.click("DrawDeal");
+        QCoreApplication::processEvents();
+        for (const QMessageBox* other : t.board->findChildren<QMessageBox*>()) {
+            QVERIFY(!other->isVisible());
+        }
+        QCOMPARE(t.state.DrawPhase, 1);
+    }
+    QVERIFY(QDir::setCurrent(home));
+}
+
+void BoardPlayTest::strategyWindowOnF2() {
+    BoardFixture t(GameId::JacksOrBetter, 10.0f);
+    QTest::keyClick(t.board.get(), Qt::Key_F2);
+    auto* strategy = t.board->findChild<QWidget*>("Strategy");
+    QVERIFY(strategy != nullptr);
+    QVERIFY(strategy->isVisible());
+    QTest::keyClick(t.board.get(), Qt::Key_F2);
+    QVERIFY(!strategy->isVisible());
+}
+
+QTEST_MAIN(BoardPlayTest)
+#include "board_play_test.moc"

@@ -19,12 +19,13 @@ Q_DECLARE_METATYPE(marivale::GameId)
 
 namespace {
 
-// Plays any open Double Up or Treasure Hunt window at random and closes it.
-void answerAtRandom(std::mt19937& pick) {
+// Plays any open Double Up or Treasure Hunt window at random and closes it; counts the windows.
+void answerAtRandom(std::mt19937& pick, int& answered) {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr) {
         return;
     }
+    ++answered;
     const bool hunt = modal->objectName() == QLatin1String("TrTrip");
     const char* choices[] = {hunt ? "Tr1" : "Low", hunt ? "Tr2" : "High", hunt ? "Tr3" : "Low"};
     for (int guess = static_cast<int>(pick() % 4); guess > 0; --guess) {
@@ -62,13 +63,18 @@ private slots:
         const double startCredits = t.state.Credits;
         double payouts = 0.0;
         double bets = 0.0;
+        int answered = 0;
         QTimer answerer;
-        QObject::connect(&answerer, &QTimer::timeout, [&pick] { answerAtRandom(pick); });
+        QObject::connect(&answerer, &QTimer::timeout,
+                         [&pick, &answered] { answerAtRandom(pick, answered); });
         answerer.start(0);
-        const QStringList controls{"DrawDeal", "DrawDeal", "Stand",   "Card0",    "Card1",
-                                   "Card2",    "Card3",    "Card4",   "Purchase", "BetUp",
-                                   "BetDn",    "POption5", "POption7"};
+        const QStringList controls{"DrawDeal", "DrawDeal", "Stand",    "Stand",   "Card0",
+                                   "Card1",    "Card2",    "Card3",    "Card4",   "Purchase",
+                                   "BetUp",    "BetDn",    "POption0", "POption7"};
         for (int step = 0; step < 3000; ++step) {
+            if (t.state.DrawPhase == 0 && t.state.Credits < t.state.BetAmount && pick() % 2) {
+                t.buy(0);
+            }
             auto* button =
                 t.find<QAbstractButton>(controls[static_cast<int>(pick() % controls.size())]);
             if (!button->isEnabled()) {
@@ -90,6 +96,7 @@ private slots:
             QVERIFY(t.state.DrawPhase <= 2);
         }
         answerer.stop();
+        QVERIFY2(answered > 10, qPrintable(QStringLiteral("only %1 modal windows").arg(answered)));
         const float visitNet = t.state.GameWinnings - t.state.TotalPurchased + t.state.Credits;
         t.board->close();
         QCOMPARE(t.state.NetWinLoss, visitNet);

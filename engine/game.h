@@ -22,6 +22,23 @@ constexpr bool hasJoker(GameId game) {
     return deckSize(game) == 53;
 }
 
+// Picks the value that belongs to a game, for tables kept one per game.
+template <typename T>
+constexpr const T& byGame(GameId game, const T& treasureTrips, const T& deucesWild,
+                          const T& jokerWild, const T& jacksOrBetter) {
+    switch (game) {
+    case GameId::TreasureTrips:
+        return treasureTrips;
+    case GameId::DeucesWild:
+        return deucesWild;
+    case GameId::JokerWild:
+        return jokerWild;
+    case GameId::JacksOrBetter:
+        break;
+    }
+    return jacksOrBetter;
+}
+
 // The short name the command-line tools use: JB, DW, WJ, TT.
 std::string_view shortName(GameId game);
 std::optional<GameId> gameFromShortName(std::string_view name);

@@ -10,28 +10,18 @@ namespace {
 using NameColumn = std::array<std::string_view, 11>;
 
 // Each game's hand name by code 0..10; code 1's pair names are resolved separately.
-constexpr NameColumn kTreasureTrips{"",
-                                    "Two Pair",
-                                    "Three of a Kind",
-                                    "Straight",
-                                    "Flush",
-                                    "Full House",
-                                    "Four of a Kind",
-                                    "Straight Flush",
-                                    "Royal Flush",
-                                    "Five of a Kind",
-                                    ""};
-constexpr NameColumn kJokerWild{"",
-                                "Two Pair",
-                                "Three of a Kind",
-                                "Straight",
-                                "Flush",
-                                "Full House",
-                                "Four of a Kind",
-                                "Straight Flush",
-                                "Royal Flush",
-                                "Five of a Kind",
-                                ""};
+// Treasure Trips and Joker Wild name their codes alike.
+constexpr NameColumn kJokerGames{"",
+                                 "Two Pair",
+                                 "Three of a Kind",
+                                 "Straight",
+                                 "Flush",
+                                 "Full House",
+                                 "Four of a Kind",
+                                 "Straight Flush",
+                                 "Royal Flush",
+                                 "Five of a Kind",
+                                 ""};
 constexpr NameColumn kJacks{"",
                             "Pair of Jacks/Queens/Kings/Aces",
                             "Two Pair",
@@ -56,17 +46,7 @@ constexpr NameColumn kDeuces{"",
                              "Natural Royal Flush"};
 
 const NameColumn& column(GameId game) {
-    switch (game) {
-    case GameId::TreasureTrips:
-        return kTreasureTrips;
-    case GameId::DeucesWild:
-        return kDeuces;
-    case GameId::JokerWild:
-        return kJokerWild;
-    case GameId::JacksOrBetter:
-        break;
-    }
-    return kJacks;
+    return byGame(game, kJokerGames, kDeuces, kJokerGames, kJacks);
 }
 
 // The pair named by the rank the analysis left in Hand position 0.

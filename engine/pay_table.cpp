@@ -73,17 +73,7 @@ const PayRow* rowFor(GameId game, std::uint8_t code) {
 } // namespace
 
 const PayTable& payTable(GameId game) {
-    switch (game) {
-    case GameId::TreasureTrips:
-        return kTreasureTrips;
-    case GameId::DeucesWild:
-        return kDeuces;
-    case GameId::JokerWild:
-        return kJokerWild;
-    case GameId::JacksOrBetter:
-        break;
-    }
-    return kJacks;
+    return byGame(game, kTreasureTrips, kDeuces, kJokerWild, kJacks);
 }
 
 void ComputePayouts(GameState& state, GameId game) {

@@ -34,21 +34,9 @@ bool bonusCode(std::uint8_t code) {
 } // namespace
 
 std::string_view winPatternFor(GameId game, std::uint8_t code) {
-    const WinPatterns* column = &kJacksWin;
-    switch (game) {
-    case GameId::TreasureTrips:
-        column = &kTreasureTripsWin;
-        break;
-    case GameId::DeucesWild:
-        column = &kDeucesWin;
-        break;
-    case GameId::JokerWild:
-        column = &kJokerWildWin;
-        break;
-    case GameId::JacksOrBetter:
-        break;
-    }
-    return code < column->size() ? (*column)[code] : std::string_view{};
+    const WinPatterns& column =
+        byGame(game, kTreasureTripsWin, kDeucesWin, kJokerWildWin, kJacksWin);
+    return code < column.size() ? column[code] : std::string_view{};
 }
 
 Settlement SettleHand(GameState& state, GameId game, BonusGame& bonus) {

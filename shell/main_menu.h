@@ -1,0 +1,92 @@
+#pragma once
+
+// The main menu (frmMain): the bet unit, the Double Up switch, the running total and the way
+// into the four boards and the help screen. Its load restores the placement and the total, its
+// close writes them back. It owns no game data: it reads and writes PlayUnit, DoubleUpEnabled
+// and NetWinLoss of the one GameState.
+
+// Standard library
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+// Qt
+#include <QMainWindow>
+#include <QRect>
+
+// Marivale
+#include "engine/game.h"
+#include "engine/random_source.h"
+#include "state/game_state.h"
+
+class QButtonGroup;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QTimer;
+
+namespace marivale {
+
+// What the menu asks of the world outside it; an empty member uses the real thing.
+struct MainMenuHooks {
+    // Shows the game's board modally and returns once it has closed.
+    std::function<void(GameId)> openBoard{};
+    // Tells the player about a data file that cannot be written.
+    std::function<void(const QString&)> warn{};
+};
+
+class MainMenu : public QMainWindow {
+    Q_OBJECT
+public:
+    using Hooks = MainMenuHooks;
+
+    // Builds the window and runs its load: placement, Double Up off, the total from the data
+    // file in the current directory.
+    MainMenu(GameState& state, RandomSource& random, Hooks hooks = {}, QWidget* parent = nullptr);
+    ~MainMenu() override;
+
+signals:
+    // The close sequence has run; the program may end.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void buildControls();
+    void buildStatusBar();
+    void loadWindow();
+    void setPlayUnit(int index);
+    void toggleDoubleUp();
+    void clearTotal();
+    void showHelp();
+    void visitBoard(GameId game);
+    void openRealBoard(GameId game);
+    void showTotal(std::string_view captionAtZero);
+    void showDoubleUpStatus();
+    void showClock();
+    void unloadOtherWindows();
+    void warnPlayer(const QString& text);
+    void fixPlacementOnceFramed();
+
+    GameState& state_;
+    [[maybe_unused]] RandomSource& random_; // handed to the boards
+    Hooks hooks_{};
+    std::filesystem::path dataDirectory_{};
+    QRect placedRect_{};            // the outer rectangle the load applied, in pixels
+    bool placementUnframed_{false}; // applied before the window manager framed the window
+
+    QLabel* title_{nullptr};
+    QGroupBox* playFrame_{nullptr};
+    QButtonGroup* playSettings_{nullptr};
+    QGroupBox* statFrame_{nullptr};
+    QLineEdit* winLoss_{nullptr};
+    std::array<QLabel*, 3> panels_{};
+    QTimer* clock_{nullptr};
+};
+
+} // namespace marivale

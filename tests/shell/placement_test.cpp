@@ -1,0 +1,223 @@
+// The main window's saved placement: defaults, restore, save at close, damaged values, a window
+// left off every screen, and the minimised and maximised cases.
+
+// Standard library
+#include <array>
+#include <memory>
+
+// Qt
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Marivale
+#include "shell/main_menu.h"
+#include "shell/placement.h"
+
+namespace marivale {
+
+class PlacementTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void nothingStoredGivesTheDesignedPlacement();
+    void storedPlacementIsApplied();
+    void closeStoresThePlacementInTwips();
+    void unchangedPlacementIsStoredUnchanged();
+    void valueThatIsNotANumberFallsBack_data();
+    void valueThatIsNotANumberFallsBack();
+    void offScreenWindowComesBack_data();
+    void offScreenWindowComesBack();
+    void minimisedCloseKeepsTheEarlierPlacement();
+    void maximisedCloseStoresTheMaximisedPlacement();
+
+private:
+    std::unique_ptr<MainMenu> openMenu();
+    static void store(const std::array<QString, 4>& values);
+    static QStringList stored();
+
+    QTemporaryDir config_{};
+    QTemporaryDir folder_{};
+    QString startDirectory_{};
+    GameState state_{};
+    ScriptedRandomSource random_{};
+};
+
+void PlacementTest::initTestCase() {
+    QVERIFY(config_.isValid());
+    QVERIFY(folder_.isValid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config_.path());
+    startDirectory_ = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder_.path()));
+}
+
+void PlacementTest::init() {
+    QSettings("Vandrine", "Vandrine").clear();
+    state_ = GameState{};
+    applyStartupDefaults(state_);
+}
+
+void PlacementTest::cleanup() {}
+
+std::unique_ptr<MainMenu> PlacementTest::openMenu() {
+    MainMenu::Hooks hooks;
+    hooks.warn = [](const QString& text) {
+        qWarning("unexpected warning: %s", qPrintable(text));
+    };
+    hooks.openBoard = [](GameId) {
+    };
+    auto menu = std::make_unique<MainMenu>(state_, random_, hooks);
+    menu->show();
+    if (!QTest::qWaitForWindowExposed(menu.get())) {
+        qWarning("the menu was not exposed");
+    }
+    return menu;
+}
+
+void PlacementTest::store(const std::array<QString, 4>& values) {
+    QSettings settings("Vandrine", "Vandrine");
+    settings.beginGroup("Settings");
+    const std::array<const char*, 4> keys{"MainLeft", "MainTop", "MainWidth", "MainHeight"};
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        settings.setValue(keys[i], values[i]);
+    }
+}
+
+QStringList PlacementTest::stored() {
+    QSettings settings("Vandrine", "Vandrine");
+    settings.beginGroup("Settings");
+    return {settings.value("MainLeft", "<none>").toString(),
+            settings.value("MainTop", "<none>").toString(),
+            settings.value("MainWidth", "<none>").toString(),
+            settings.value("MainHeight", "<none>").toString()};
+}
+
+void PlacementTest::nothingStoredGivesTheDesignedPlacement() {
+    QCOMPARE(stored()[0], QString("<none>"));
+    auto menu = openMenu();
+    QCOMPARE(menu->frameGeometry(), QRect(67, 67, 310, 257));
+}
+
+void PlacementTest::storedPlacementIsApplied() {
+    store({"1500", "1800", "6000", "4500"});
+    auto menu = openMenu();
+    QCOMPARE(menu->frameGeometry(), QRect(100, 120, 400, 300));
+}
+
+void PlacementTest::closeStoresThePlacementInTwips() {
+    auto menu = openMenu();
+    menu->move(150, 90);
+    menu->resize(420, 330);
+    // Stored is the outer rectangle: the client area plus the window frame.
+    const QRect outer = menu->frameGeometry();
+    QCOMPARE(outer.topLeft(), QPoint(150, 90));
+    QVERIFY(outer.width() >= 420 && outer.height() >= 330);
+    menu->close();
+    QCOMPARE(stored(), (QStringList{"2250", "1350", QString::number(outer.width() * 15),
+                                    QString::number(outer.height() * 15)}));
+    // Where the store lives: application "Vandrine", section "Settings".
+    QSettings file(QDir(config_.path()).filePath("Vandrine/Vandrine.conf"), QSettings::IniFormat);
+    QCOMPARE(file.value("Settings/MainLeft").toString(), QString("2250"));
+}
+
+void PlacementTest::unchangedPlacementIsStoredUnchanged() {
+    store({"1500", "1800", "6000", "4500"});
+    for (int run = 0; run < 3; ++run) {
+        auto menu = openMenu();
+        menu->close();
+        QCOMPARE(stored(), (QStringList{"1500", "1800", "6000", "4500"}));
+    }
+}
+
+void PlacementTest::valueThatIsNotANumberFallsBack_data() {
+    QTest::addColumn<QStringList>("values");
+    QTest::addColumn<QRect>("expected");
+    QTest::newRow("left is text") << QStringList{"abc", "1800", "6000", "4500"}
+                                  << QRect(67, 120, 400, 300);
+    QTest::newRow("top is empty") << QStringList{"1500", "", "6000", "4500"}
+                                  << QRect(100, 67, 400, 300);
+    QTest::newRow("width is garbage")
+        << QStringList{"1500", "1800", "60x0", "4500"} << QRect(100, 120, 310, 300);
+    QTest::newRow("height is negative")
+        << QStringList{"1500", "1800", "6000", "-4500"} << QRect(100, 120, 400, 257);
+    QTest::newRow("absurd size") << QStringList{"1500", "1800", "1e30", "4500"}
+                                 << QRect(100, 120, 310, 300);
+    QTest::newRow("decimals are rounded")
+        << QStringList{"1500.4", " 1800 ", "6000", "4500"} << QRect(100, 120, 400, 300);
+}
+
+void PlacementTest::valueThatIsNotANumberFallsBack() {
+    QFETCH(QStringList, values);
+    QFETCH(QRect, expected);
+    store({values[0], values[1], values[2], values[3]});
+    auto menu = openMenu();
+    QCOMPARE(menu->frameGeometry(), expected);
+}
+
+void PlacementTest::offScreenWindowComesBack_data() {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect home(area.topLeft() + QPoint(67, 67), QSize(310, 257));
+    const auto twips = [](int pixels) {
+        return QString::number(pixels * 15);
+    };
+    QTest::addColumn<QStringList>("values");
+    QTest::addColumn<QRect>("expected");
+    QTest::newRow("far left and up") << QStringList{"-150000", "-150000", "4650", "3850"} << home;
+    QTest::newRow("beyond the right edge")
+        << QStringList{twips(screen.right() + 50), "1500", "4650", "3850"} << home;
+    QTest::newRow("below the bottom edge")
+        << QStringList{"1500", twips(screen.bottom() + 1), "4650", "3850"} << home;
+    QTest::newRow("title bar above the screen")
+        << QStringList{"1500", twips(screen.top() - 300), "4650", "3850"} << home;
+    QTest::newRow("only a sliver on screen")
+        << QStringList{twips(screen.right() - 20), "1500", "4650", "3850"} << home;
+    const QRect partly(screen.right() - 100, 100, 310, 257);
+    QTest::newRow("partly on screen stays")
+        << QStringList{twips(partly.x()), "1500", "4650", "3850"} << partly;
+    QTest::newRow("too big for the screen comes back at its corner")
+        << QStringList{"-150000", "1500", twips(area.width() + 200), "3850"}
+        << QRect(area.left(), area.top() + 67, area.width() + 200, 257);
+}
+
+void PlacementTest::offScreenWindowComesBack() {
+    QFETCH(QStringList, values);
+    QFETCH(QRect, expected);
+    store({values[0], values[1], values[2], values[3]});
+    auto menu = openMenu();
+    QCOMPARE(menu->frameGeometry(), expected);
+}
+
+void PlacementTest::minimisedCloseKeepsTheEarlierPlacement() {
+    store({"1500", "1800", "6000", "4500"});
+    auto menu = openMenu();
+    menu->move(10, 10);
+    menu->showMinimized();
+    QVERIFY(menu->isMinimized());
+    menu->close();
+    QCOMPARE(stored(), (QStringList{"1500", "1800", "6000", "4500"}));
+}
+
+void PlacementTest::maximisedCloseStoresTheMaximisedPlacement() {
+    auto menu = openMenu();
+    menu->showMaximized();
+    QTRY_VERIFY(menu->isMaximized());
+    QTRY_VERIFY(menu->frameGeometry().width() > 310);
+    const QRect maximised = menu->frameGeometry();
+    menu->close();
+    const Placement expected = placementOf(maximised);
+    QCOMPARE(stored(),
+             (QStringList{QString::number(expected.left), QString::number(expected.top),
+                          QString::number(expected.width), QString::number(expected.height)}));
+}
+
+} // namespace marivale
+
+QTEST_MAIN(marivale::PlacementTest)
+#include "placement_test.moc"

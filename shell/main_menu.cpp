@@ -25,13 +25,11 @@
 
 // Marivale
 #include "board/game_variant.h"
+#include "board/game_board.h"
 #include "engine/money_format.h"
 #include "shell/data_file.h"
 #include "shell/help_dialog.h"
 #include "shell/placement.h"
-#ifdef MARIVALE_HAVE_BOARD
-#include "board/game_board.h"
-#endif
 
 namespace marivale {
 
@@ -280,14 +278,12 @@ void MainMenu::visitBoard(GameId game) {
     show();
 }
 
-void MainMenu::openRealBoard([[maybe_unused]] GameId game) {
-#ifdef MARIVALE_HAVE_BOARD
+void MainMenu::openRealBoard(GameId game) {
     QPointer<QDialog> board = new GameBoard(variantFor(game), state_, random_, this);
     // Closing a board returns to this menu; it never ends the program, even with the menu hidden.
     board->setAttribute(Qt::WA_QuitOnClose, false);
     board->exec();
     delete board.data();
-#endif
 }
 
 // Both displays of the total; captionAtZero is the path's caption for a total of exactly 0.

@@ -6,12 +6,8 @@ target_compile_features(marivale_datafile PUBLIC cxx_std_20)
 # The saved placement and the main menu.
 add_library(marivale_shell STATIC placement.cpp main_menu.cpp)
 target_link_libraries(marivale_shell PUBLIC Qt6::Widgets marivale_datafile marivale_help
-                                            marivale_board_logic marivale_engine)
+                                            marivale_board marivale_engine)
 target_include_directories(marivale_shell PUBLIC ${PROJECT_SOURCE_DIR})
-if(TARGET marivale_board)
-    target_link_libraries(marivale_shell PUBLIC marivale_board)
-    target_compile_definitions(marivale_shell PRIVATE MARIVALE_HAVE_BOARD)
-endif()
 
 # The program, with its icon built in.
 add_executable(marivale-poker main.cpp)

@@ -1,0 +1,34 @@
+#include "board/advisor/game_odds_cache.h"
+
+// Standard library
+#include <array>
+#include <mutex>
+
+namespace marivale {
+namespace {
+
+struct Cache {
+    std::mutex mutex{};
+    std::array<std::optional<odds::GameOdds>, 4> byGame{};
+};
+
+Cache& cache() {
+    static Cache instance;
+    return instance;
+}
+
+} // namespace
+
+std::optional<odds::GameOdds> cachedGameOdds(GameId game) {
+    Cache& all = cache();
+    const std::lock_guard lock(all.mutex);
+    return all.byGame[static_cast<std::size_t>(game)];
+}
+
+void storeGameOdds(const odds::GameOdds& result) {
+    Cache& all = cache();
+    const std::lock_guard lock(all.mutex);
+    all.byGame[static_cast<std::size_t>(result.game)] = result;
+}
+
+} // namespace marivale

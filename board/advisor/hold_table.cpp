@@ -1,0 +1,164 @@
+#include "board/advisor/hold_table.h"
+
+// Qt
+#include <QHeaderView>
+#include <QStyle>
+
+// Marivale
+#include "board/advisor/card_text.h"
+#include "engine/money_format.h"
+
+namespace marivale {
+namespace {
+
+constexpr int kColumns = 8;
+// Column widths in pixels: rank, five cards, bets, dollars.
+constexpr std::array<int, kColumns> kColumnWidth{44, 50, 50, 50, 50, 50, 70, 84};
+constexpr int kRowHeight = 20;
+// Rows on show without scrolling: the best holds.
+constexpr int kVisibleRows = 14;
+constexpr QRgb kBestRowColour = 0xffd9f2d0;
+constexpr QRgb kDiscardColour = 0xffeeeeee;
+constexpr std::string_view kDollarPattern = "$#,##0.00";
+
+QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
+    auto* item = new QTableWidgetItem(text);
+    item->setTextAlignment(alignment);
+    item->setFlags(Qt::ItemIsEnabled);
+    return item;
+}
+
+QString dollars(double bets, float bet) {
+    return QString::fromStdString(FormatMoney(static_cast<float>(bets) * bet, kDollarPattern));
+}
+
+} // namespace
+
+HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns, parent) {
+    setObjectName(QStringLiteral("Holds"));
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    for (int column = 0; column < kColumns; ++column) {
+        setColumnWidth(column, kColumnWidth[static_cast<std::size_t>(column)]);
+    }
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setWordWrap(false);
+    int width = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
+    for (const int column : kColumnWidth) {
+        width += column;
+    }
+    setFixedWidth(width);
+    setMinimumHeight(2 * frameWidth() + horizontalHeader()->sizeHint().height() +
+                     kVisibleRows * kRowHeight);
+    showNoDeal();
+}
+
+void HoldTable::setHeaderCards(const DealtCards* dealt) {
+    setHorizontalHeaderItem(kRankColumn, new QTableWidgetItem(QString()));
+    for (int p = 0; p < 5; ++p) {
+        auto* header = new QTableWidgetItem(dealt ? cardText((*dealt)[static_cast<std::size_t>(p)])
+                                                  : QStringLiteral("-"));
+        if (dealt) {
+            header->setForeground(cardColour((*dealt)[static_cast<std::size_t>(p)]));
+        }
+        setHorizontalHeaderItem(kFirstCardColumn + p, header);
+    }
+    setHorizontalHeaderItem(kBetsColumn, new QTableWidgetItem(tr("Bets")));
+    setHorizontalHeaderItem(kDollarsColumn, new QTableWidgetItem(tr("Dollars")));
+}
+
+void HoldTable::clearRows() {
+    clearSpans();
+    for (int row = 0; row < rowCount(); ++row) {
+        for (int column = 0; column < kColumns; ++column) {
+            setItem(row, column, nullptr);
+        }
+    }
+}
+
+void HoldTable::showNoDeal() {
+    odds_.reset();
+    setHeaderCards(nullptr);
+    clearRows();
+}
+
+void HoldTable::showComputing(const DealtCards& dealt) {
+    odds_.reset();
+    setHeaderCards(&dealt);
+    clearRows();
+    setSpan(0, kRankColumn, 1, kColumns);
+    setItem(0, kRankColumn, makeItem(tr("computing\u2026"), Qt::AlignCenter));
+}
+
+void HoldTable::showOdds(const DealtCards& dealt, const odds::HandOdds& odds, float bet) {
+    odds_ = odds;
+    bet_ = bet;
+    setHeaderCards(&dealt);
+    clearRows();
+    const auto order = odds.ranking();
+    for (int row = 0; row < odds::kHoldCount; ++row) {
+        const unsigned held = order[static_cast<std::size_t>(row)];
+        const odds::HoldOdds& hold = odds.holds[held];
+        const bool best = static_cast<int>(held) == odds.best;
+        auto* rank = makeItem(best ? tr("Best") : QString::number(row + 1), Qt::AlignCenter);
+        rank->setData(kHeldRole, held);
+        setItem(row, kRankColumn, rank);
+        if (held == 0) {
+            setSpan(row, kFirstCardColumn, 1, 5);
+            auto* all = makeItem(tr("discard all five"), Qt::AlignCenter);
+            all->setForeground(QColor(Qt::darkGray));
+            setItem(row, kFirstCardColumn, all);
+        }
+        for (int p = 0; p < 5 && held != 0; ++p) {
+            const bool kept = ((held >> p) & 1u) != 0;
+            const CardCode card = dealt[static_cast<std::size_t>(p)];
+            auto* cell = makeItem(kept ? cardText(card) : QString(), Qt::AlignCenter);
+            if (kept) {
+                cell->setForeground(cardColour(card));
+            } else {
+                cell->setBackground(QColor::fromRgba(kDiscardColour));
+            }
+            setItem(row, kFirstCardColumn + p, cell);
+        }
+        setItem(row, kBetsColumn,
+                makeItem(QString::number(hold.expectedReturn, 'f', 4),
+                         Qt::AlignRight | Qt::AlignVCenter));
+        setItem(row, kDollarsColumn,
+                makeItem(dollars(hold.expectedReturn, bet), Qt::AlignRight | Qt::AlignVCenter));
+        if (best) {
+            for (int column = 0; column < kColumns; ++column) {
+                if (QTableWidgetItem* cell = item(row, column)) {
+                    QFont font = cell->font();
+                    font.setBold(true);
+                    cell->setFont(font);
+                    cell->setBackground(QColor::fromRgba(kBestRowColour));
+                }
+            }
+        }
+    }
+    scrollToTop();
+}
+
+void HoldTable::showBet(float bet) {
+    bet_ = bet;
+    if (!odds_) {
+        return;
+    }
+    for (int row = 0; row < odds::kHoldCount; ++row) {
+        QTableWidgetItem* rank = item(row, kRankColumn);
+        QTableWidgetItem* money = item(row, kDollarsColumn);
+        if (rank && money) {
+            const auto held = rank->data(kHeldRole).toUInt();
+            money->setText(dollars(odds_->holds[held].expectedReturn, bet));
+        }
+    }
+}
+
+} // namespace marivale

@@ -1,0 +1,26 @@
+#pragma once
+
+// The deals of a deck up to a renaming of the four suits. The hand analysis only ever compares
+// suits for equality, so every deal of a class plays alike; the joker is a suit of its own that
+// no renaming moves. A 52-card deck has 134,459 classes for its 2,598,960 deals.
+
+// Standard library
+#include <array>
+#include <cstdint>
+#include <vector>
+
+// Marivale
+#include "engine/card.h"
+#include "engine/odds/combinatorics.h"
+
+namespace marivale::odds {
+
+struct DealClass {
+    std::array<CardCode, kHandSize> cards{}; // the representative, ascending
+    std::uint8_t weight{0};                  // how many deals the class holds (1..24)
+};
+
+// Every class of a 52- or 53-card deck, built once per deck size.
+const std::vector<DealClass>& dealClasses(int deckSize);
+
+} // namespace marivale::odds

@@ -1,0 +1,36 @@
+#pragma once
+
+// The whole game under the best strategy: every deal held the way that returns most, averaged
+// over every possible deal, with the probability of each final hand.
+
+// Standard library
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <stop_token>
+
+// Marivale
+#include "engine/game.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/outcome.h"
+#include "engine/odds/parallel.h"
+#include "engine/odds/pay_scale.h"
+
+namespace marivale::odds {
+
+struct GameOdds {
+    GameId game{GameId::JacksOrBetter};
+    double expectedReturn{0.0};                       // in bets per bet; 1.0 is 100%
+    std::array<double, kCodeSlots> codeProbability{}; // final hands by code, bonus or not
+    double bonusProbability{0.0};                     // final hands that earn the Treasure Hunt
+    double bonusReturn{0.0};                          // the part of the return the bonus pays
+    std::uint64_t deals{0};
+    std::size_t dealClasses{0};
+};
+
+// Plays every deal of the game's deck the best way under the pay scale; among holds with equal
+// returns the lowest mask over the sorted cards is played. Nothing when stopped early.
+std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& scale,
+                                    int threads = defaultThreadCount(), std::stop_token stop = {});
+
+} // namespace marivale::odds

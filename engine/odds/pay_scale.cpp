@@ -1,0 +1,43 @@
+#include "engine/odds/pay_scale.h"
+
+// Marivale
+#include "engine/hand_analysis.h"
+#include "engine/pay_table.h"
+
+namespace marivale::odds {
+
+PayScale ownPayScale(GameId game) {
+    PayScale scale;
+    for (int code = 1; code <= topCode(game); ++code) {
+        scale.multiplier[static_cast<std::size_t>(code)] =
+            multiplierFor(game, static_cast<std::uint8_t>(code));
+    }
+    scale.bonus = game == GameId::TreasureTrips ? kTreasureHuntMean : 0.0;
+    return scale;
+}
+
+std::optional<PayScale> payScaleFromMultipliers(GameId game, std::span<const double> highestFirst) {
+    const int top = topCode(game);
+    if (static_cast<int>(highestFirst.size()) != top) {
+        return std::nullopt;
+    }
+    PayScale scale;
+    for (int code = top; code >= 1; --code) {
+        scale.multiplier[static_cast<std::size_t>(code)] =
+            highestFirst[static_cast<std::size_t>(top - code)];
+    }
+    scale.bonus = game == GameId::TreasureTrips ? kTreasureHuntMean : 0.0;
+    return scale;
+}
+
+OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale) {
+    OutcomeValues values{};
+    for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
+        const Outcome outcome = tables.outcome(slot);
+        values[static_cast<std::size_t>(slot)] =
+            scale.multiplier[outcome.code] + (outcome.bonus ? scale.bonus : 0.0);
+    }
+    return values;
+}
+
+} // namespace marivale::odds

@@ -1,0 +1,45 @@
+#pragma once
+
+// What each final hand pays, in bets: one multiplier per HandRank code, plus on Treasure Trips
+// the expected Treasure Hunt bonus of a hand that earns it.
+
+// Standard library
+#include <array>
+#include <optional>
+#include <span>
+
+// Marivale
+#include "engine/game.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/outcome.h"
+
+namespace marivale::odds {
+
+// The chest factors of the Treasure Hunt, each equally likely at one chest choice.
+inline constexpr std::array<int, 10> kChestFactors{3, 6, 9, 12, 15, 18, 21, 24, 27, 30};
+
+// The mean bonus of one chest choice in bets (16.5).
+inline constexpr double kTreasureHuntMean = [] {
+    int sum = 0;
+    for (const int factor : kChestFactors) {
+        sum += factor;
+    }
+    return static_cast<double>(sum) / static_cast<double>(kChestFactors.size());
+}();
+
+struct PayScale {
+    std::array<double, kCodeSlots> multiplier{}; // by code; code 0 pays nothing
+    double bonus{0.0};                           // added to a hand that earns the Treasure Hunt
+};
+
+// The game's own table, with one chest choice's mean bonus on Treasure Trips.
+PayScale ownPayScale(GameId game);
+
+// A table given as the multipliers of the codes from the game's highest code down to code 1
+// (ten numbers on Deuces Wild, nine elsewhere); nothing when the count is wrong.
+std::optional<PayScale> payScaleFromMultipliers(GameId game, std::span<const double> highestFirst);
+
+// What each outcome slot of the tables pays, in bets.
+OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale);
+
+} // namespace marivale::odds

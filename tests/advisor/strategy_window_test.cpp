@@ -1,0 +1,202 @@
+// The Strategy window: the best hold first with its exact return, dollars that follow the bet,
+// trainer mode's count of weaker holds and their cost, and the game's figures once worked out.
+
+// Qt
+#include <QCheckBox>
+#include <QLabel>
+#include <QTableWidget>
+#include <QtTest>
+
+// Marivale
+#include "board/advisor/hold_table.h"
+#include "board/advisor/strategy_window.h"
+#include "engine/card.h"
+#include "state/game_state.h"
+#include "tests/engine/hand_text.h"
+
+using namespace marivale;
+
+namespace {
+
+// Building a game's tables takes a moment, much longer in a debug or sanitizer build.
+constexpr int kTablesTimeoutMs = 120'000;
+
+// A Strategy window over its own state, with a hand dealt at a bet.
+struct Advisor {
+    GameState state{};
+    StrategyWindow window;
+
+    explicit Advisor(GameId game) : window(game, state) {}
+
+    void deal(const char* cards, float bet) {
+        state.BetAmount = bet;
+        testing::putHand(state, cards);
+        window.handDealt();
+    }
+    bool waitForHolds() {
+        return QTest::qWaitFor([this] { return window.handOdds().has_value(); }, kTablesTimeoutMs);
+    }
+    QTableWidget* holds() { return window.findChild<QTableWidget*>("Holds"); }
+    QString cell(int row, int column) { return holds()->item(row, column)->text(); }
+    unsigned heldOfRow(int row) {
+        return holds()->item(row, HoldTable::kRankColumn)->data(HoldTable::kHeldRole).toUInt();
+    }
+    QString label(const char* name) { return window.findChild<QLabel*>(name)->text(); }
+    void trainer(bool on) { window.findChild<QCheckBox*>("Trainer")->setChecked(on); }
+};
+
+} // namespace
+
+class StrategyWindowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void isAToolWindowCalledStrategy();
+    void bestHoldFirstWithItsExactReturn_data();
+    void bestHoldFirstWithItsExactReturn();
+    void betChangedUpdatesTheDollars();
+    void trainerCountsWeakerHoldsAndTheirCost();
+    void trainerOffCountsNothing();
+    void handThatIsNoDealShowsNoHolds();
+    void gameFiguresShowTheReturnOnceWorkedOut();
+};
+
+void StrategyWindowTest::isAToolWindowCalledStrategy() {
+    Advisor advisor(GameId::JacksOrBetter);
+    QCOMPARE(advisor.window.objectName(), QStringLiteral("Strategy"));
+    QCOMPARE(advisor.window.windowTitle(), QStringLiteral("Strategy"));
+    QVERIFY(advisor.window.windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(advisor.window.findChild<QCheckBox*>("Trainer")->text(),
+             QStringLiteral("Trainer mode"));
+    QVERIFY(!advisor.window.findChild<QCheckBox*>("Trainer")->isChecked());
+}
+
+void StrategyWindowTest::bestHoldFirstWithItsExactReturn_data() {
+    QTest::addColumn<int>("game");
+    QTest::addColumn<QString>("cards");
+    QTest::addColumn<float>("bet");
+    QTest::addColumn<unsigned>("best");
+    QTest::addColumn<QString>("bets");
+    QTest::addColumn<QString>("dollars");
+    QTest::addColumn<QString>("firstCard");
+
+    // Four to a royal at 250/100/25/8/5/4/3/1/1: (250 + 8 * 5 + 3 * 4 + 12 * 1) / 47 bets.
+    QTest::newRow("Jacks, four to a royal")
+        << int(GameId::JacksOrBetter) << "2c As Ks Qs Js" << 1.0f << 0b11110u << "6.6809"
+        << "$6.68" << QString("2\u2663");
+#ifdef MARIVALE_ODDS_OPTIMISED
+    // Each game's tables take tens of seconds to build in a sanitizer build.
+    // Three Threes with the 16.5-bet mean Treasure Hunt on every draw: 21739 / 1128 bets.
+    QTest::newRow("Treasure Trips, three Threes")
+        << int(GameId::TreasureTrips) << "3c 3d 3h 8s Kc" << 0.25f << 0b00111u << "19.2722"
+        << "$4.82" << QString("3\u2663");
+    // Four deuces pay 200 whatever the fifth card: keeping them ties with standing.
+    QTest::newRow("Deuces, four deuces")
+        << int(GameId::DeucesWild) << "2c 2d 2h 2s 7c" << 0.25f << 0b01111u << "200.0000"
+        << "$50.00" << QString("2\u2663");
+#endif
+}
+
+void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
+    QFETCH(int, game);
+    QFETCH(QString, cards);
+    QFETCH(float, bet);
+    QFETCH(unsigned, best);
+    QFETCH(QString, bets);
+    QFETCH(QString, dollars);
+    QFETCH(QString, firstCard);
+
+    Advisor advisor(static_cast<GameId>(game));
+    advisor.deal(cards.toLatin1().constData(), bet);
+    QVERIFY(advisor.waitForHolds());
+    QCOMPARE(advisor.heldOfRow(0), best);
+    QCOMPARE(advisor.cell(0, HoldTable::kRankColumn), QStringLiteral("Best"));
+    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), bets);
+    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), dollars);
+    QCOMPARE(advisor.holds()->horizontalHeaderItem(HoldTable::kFirstCardColumn)->text(), firstCard);
+    QCOMPARE(advisor.holds()->rowCount(), 32);
+    QCOMPARE(advisor.cell(1, HoldTable::kRankColumn), QStringLiteral("2"));
+}
+
+void StrategyWindowTest::betChangedUpdatesTheDollars() {
+    Advisor advisor(GameId::JacksOrBetter);
+    advisor.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(advisor.waitForHolds());
+    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$6.68"));
+    advisor.state.BetAmount = 5.0f;
+    advisor.window.betChanged();
+    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$33.40"));
+    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
+    QVERIFY(advisor.label("Dealt").contains("$5.00"));
+}
+
+void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
+    Advisor advisor(GameId::JacksOrBetter);
+    advisor.trainer(true);
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
+
+    // Standing on four to a royal and a Two: nothing (0 bets) instead of 314/47.
+    advisor.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(advisor.waitForHolds());
+    advisor.window.handPlayed({true, true, true, true, true});
+    QVERIFY(advisor.label("TrainerVerdict").contains("Mistake"));
+    QVERIFY(advisor.label("TrainerVerdict").contains("$6.68"));
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+
+    // The best hold is no mistake, and the next deal clears the verdict.
+    advisor.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(advisor.label("TrainerVerdict").isEmpty());
+    advisor.window.handPlayed({false, true, true, true, true});
+    QVERIFY(advisor.label("TrainerVerdict").startsWith("Best hold played"));
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+
+    // Keeping only the Ace and King at two dollars costs the difference times the bet.
+    advisor.deal("2c As Ks Qs Js", 2.0f);
+    const auto& odds = *advisor.window.handOdds();
+    const double lost = odds.holds[0b11110].expectedReturn - odds.holds[0b00110].expectedReturn;
+    advisor.window.handPlayed({false, true, true, false, false});
+    const float total = 6.680851f + static_cast<float>(lost) * 2.0f;
+    QCOMPARE(advisor.label("TrainerTally"),
+             QStringLiteral("Mistakes: 2   Cost: $%1").arg(QString::number(total, 'f', 2)));
+}
+
+void StrategyWindowTest::trainerOffCountsNothing() {
+    Advisor advisor(GameId::JacksOrBetter);
+    advisor.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(advisor.waitForHolds());
+    advisor.window.handPlayed({true, true, true, true, true});
+    QVERIFY(advisor.label("TrainerVerdict").isEmpty());
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
+}
+
+void StrategyWindowTest::handThatIsNoDealShowsNoHolds() {
+    Advisor advisor(GameId::JacksOrBetter);
+    advisor.trainer(true);
+    advisor.state.BetAmount = 1.0f;
+    advisor.state.Hand = {}; // five Aces of clubs: not a deal
+    advisor.window.handDealt();
+    advisor.window.handPlayed({true, false, false, false, false});
+    QVERIFY(!advisor.window.handOdds());
+    QVERIFY(advisor.holds()->item(0, HoldTable::kBetsColumn) == nullptr);
+    QVERIFY(advisor.label("Dealt").startsWith("Deal a hand"));
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
+}
+
+void StrategyWindowTest::gameFiguresShowTheReturnOnceWorkedOut() {
+#ifndef MARIVALE_ODDS_OPTIMISED
+    QSKIP("a whole game: optimised builds only");
+#endif
+    Advisor advisor(GameId::JokerWild);
+    QVERIFY(advisor.label("GameReturn").contains(QStringLiteral("computing\u2026")));
+    QVERIFY(QTest::qWaitFor([&] { return advisor.window.gameFiguresReady(); }, kTablesTimeoutMs));
+    QVERIFY(advisor.label("GameReturn").contains("81.4339%"));
+    auto* hits = advisor.window.findChild<QTableWidget*>("HitFrequencies");
+    QCOMPARE(hits->item(0, 0)->text(), QStringLiteral("Five of a Kind"));
+    QCOMPARE(hits->item(0, 1)->text(), QStringLiteral("\u00d7200"));
+
+    // A second window of the same game shows the kept figures at once.
+    Advisor again(GameId::JokerWild);
+    QVERIFY(again.window.gameFiguresReady());
+}
+
+QTEST_MAIN(StrategyWindowTest)
+#include "strategy_window_test.moc"

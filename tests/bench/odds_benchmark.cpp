@@ -1,0 +1,99 @@
+// How fast the odds are: a game's tables from scratch, the 32 holds of one dealt hand once the
+// tables exist, and a whole game under the best strategy (tables built beforehand).
+
+// Standard library
+#include <array>
+#include <vector>
+
+// Google Benchmark
+#include <benchmark/benchmark.h>
+
+// Marivale
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/game_odds.h"
+#include "engine/odds/hold_odds.h"
+#include "engine/odds/parallel.h"
+#include "engine/odds/pay_scale.h"
+#include "engine/random_source.h"
+
+using namespace marivale;
+
+namespace {
+
+// A repeatable set of deals for the hold benchmark.
+std::vector<std::array<CardCode, 5>> someDeals(GameId game, int count) {
+    SeededRandomSource random(7);
+    std::vector<std::array<CardCode, 5>> deals;
+    while (static_cast<int>(deals.size()) < count) {
+        std::array<CardCode, 5> deal{};
+        for (std::size_t i = 0; i < deal.size(); ++i) {
+            bool fresh = false;
+            while (!fresh) {
+                deal[i] = static_cast<CardCode>(random.next() * deckSize(game));
+                fresh = std::find(deal.begin(), deal.begin() + static_cast<long>(i), deal[i]) ==
+                        deal.begin() + static_cast<long>(i);
+            }
+        }
+        deals.push_back(deal);
+    }
+    return deals;
+}
+
+void buildTables(benchmark::State& bench, GameId game) {
+    std::size_t bytes = 0;
+    for (auto _ : bench) {
+        const odds::DrawTables tables(game, odds::defaultThreadCount());
+        bytes = tables.memoryBytes();
+        benchmark::DoNotOptimize(bytes);
+    }
+    bench.counters["MiB"] = static_cast<double>(bytes) / (1024.0 * 1024.0);
+}
+
+void oneHand(benchmark::State& bench, GameId game) {
+    const odds::DrawTables& tables = odds::DrawTables::forGame(game);
+    const odds::PayScale scale = odds::ownPayScale(game);
+    const auto deals = someDeals(game, 1000);
+    std::size_t next = 0;
+    for (auto _ : bench) {
+        const odds::HandOdds result = odds::analyzeHolds(tables, deals[next], scale);
+        benchmark::DoNotOptimize(result.best);
+        next = (next + 1) % deals.size();
+    }
+}
+
+void wholeGame(benchmark::State& bench, GameId game) {
+    const odds::DrawTables& tables = odds::DrawTables::forGame(game);
+    const odds::PayScale scale = odds::ownPayScale(game);
+    double expected = 0.0;
+    for (auto _ : bench) {
+        expected = odds::analyzeGame(tables, scale)->expectedReturn;
+        benchmark::DoNotOptimize(expected);
+    }
+    bench.counters["return%"] = 100.0 * expected;
+}
+
+void registerAll() {
+    for (const GameId game : kAllGames) {
+        const std::string name(shortName(game));
+        benchmark::RegisterBenchmark(("BuildTables/" + name).c_str(), buildTables, game)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(2);
+        benchmark::RegisterBenchmark(("HandHolds/" + name).c_str(), oneHand, game)
+            ->Unit(benchmark::kMicrosecond);
+        benchmark::RegisterBenchmark(("WholeGame/" + name).c_str(), wholeGame, game)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(2);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    registerAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

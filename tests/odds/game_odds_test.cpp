@@ -1,0 +1,197 @@
+// The whole game under the best strategy: the published returns and hit frequencies of 9/6
+// Jacks or Better and full-pay Deuces Wild, the returns of the four games' own tables, and the
+// suit classes and suit symmetry that the whole-game count relies on.
+
+#include <gtest/gtest.h>
+
+// Standard library
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <stop_token>
+
+// Marivale
+#include "engine/odds/deal_classes.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/game_odds.h"
+#include "engine/odds/pay_scale.h"
+#include "odds_test_support.h"
+
+namespace marivale {
+namespace {
+
+#define SKIP_UNLESS_OPTIMISED()                                                                    \
+    if (!testing::kOptimisedBuild) {                                                               \
+        GTEST_SKIP() << "a whole game: optimised builds only";                                     \
+    }
+
+struct PublishedGame {
+    GameId game;
+    std::array<double, 10> multipliers; // from the highest code down
+    double expectedReturn;
+    std::array<double, 11> probability; // by code 0..10, rounded to six places
+};
+
+// 9/6 Jacks or Better (800 for a royal) and full-pay Deuces Wild, as published.
+const std::array<PublishedGame, 2> kPublished{{
+    {GameId::JacksOrBetter,
+     {800, 50, 25, 9, 6, 4, 3, 2, 1},
+     0.995439,
+     {0.545435, 0.214585, 0.129279, 0.074449, 0.011229, 0.011015, 0.011512, 0.002363, 0.000109,
+      0.000025, 0}},
+    {GameId::DeucesWild,
+     {800, 200, 25, 15, 9, 5, 3, 2, 2, 1},
+     1.007620,
+     {0.546905, 0.284702, 0.055963, 0.016868, 0.021229, 0.064938, 0.004172, 0.003202, 0.001796,
+      0.000204, 0.000022}},
+}};
+
+TEST(GameOdds, PublishedTablesReturnAndHitFrequencies) {
+    SKIP_UNLESS_OPTIMISED();
+    for (const PublishedGame& published : kPublished) {
+        SCOPED_TRACE(std::string(shortName(published.game)));
+        const auto count = static_cast<std::size_t>(topCode(published.game));
+        const auto scale = odds::payScaleFromMultipliers(
+            published.game, std::span<const double>(published.multipliers.data(), count));
+        ASSERT_TRUE(scale);
+        const auto result = odds::analyzeGame(odds::DrawTables::forGame(published.game), *scale);
+        ASSERT_TRUE(result);
+        EXPECT_NEAR(result->expectedReturn, published.expectedReturn, 5e-7);
+        for (std::size_t code = 0; code < published.probability.size(); ++code) {
+            EXPECT_NEAR(result->codeProbability[code], published.probability[code], 5e-7)
+                << "code " << code;
+        }
+    }
+}
+
+struct OwnTable {
+    GameId game;
+    double expectedReturn; // with the best strategy, to eight places
+    double bonusReturn;    // the Treasure Hunt's share at one chest choice
+};
+
+// The returns of the four boards' own pay tables.
+constexpr std::array<OwnTable, 4> kOwnTables{{
+    {GameId::JacksOrBetter, 0.83787541, 0.0},
+    {GameId::DeucesWild, 0.88304134, 0.0},
+    {GameId::JokerWild, 0.81433903, 0.0},
+    {GameId::TreasureTrips, 1.03749729, 0.39253480},
+}};
+
+TEST(GameOdds, OwnTablesReturns) {
+    SKIP_UNLESS_OPTIMISED();
+    for (const OwnTable& own : kOwnTables) {
+        SCOPED_TRACE(std::string(shortName(own.game)));
+        const auto& tables = odds::DrawTables::forGame(own.game);
+        const auto result = odds::analyzeGame(tables, odds::ownPayScale(own.game));
+        ASSERT_TRUE(result);
+        EXPECT_NEAR(result->expectedReturn, own.expectedReturn, 5e-9);
+        EXPECT_NEAR(result->bonusReturn, own.bonusReturn, 5e-9);
+        const double total =
+            std::accumulate(result->codeProbability.begin(), result->codeProbability.end(), 0.0);
+        EXPECT_NEAR(total, 1.0, 1e-12);
+        EXPECT_EQ(result->deals, odds::binomial(deckSize(own.game), 5));
+    }
+}
+
+TEST(GameOdds, StoppedBeforeTheEndGivesNothing) {
+    std::stop_source stop;
+    stop.request_stop();
+    const auto& tables = odds::DrawTables::forGame(GameId::JacksOrBetter);
+    EXPECT_FALSE(
+        odds::analyzeGame(tables, odds::ownPayScale(GameId::JacksOrBetter), 2, stop.get_token()));
+}
+
+TEST(DealClasses, CoverEveryDealOnce) {
+    struct Expected {
+        int deck;
+        std::size_t classes;
+    };
+    // 134,459 classes of 52-card deals plus 16,432 of four natural cards with the joker.
+    for (const Expected expected : {Expected{52, 134'459}, Expected{53, 134'459 + 16'432}}) {
+        const auto& classes = odds::dealClasses(expected.deck);
+        EXPECT_EQ(classes.size(), expected.classes);
+        std::uint64_t deals = 0;
+        for (const odds::DealClass& deal : classes) {
+            deals += deal.weight;
+            EXPECT_TRUE(std::is_sorted(deal.cards.begin(), deal.cards.end()));
+        }
+        EXPECT_EQ(deals, odds::binomial(expected.deck, 5));
+    }
+}
+
+// The whole-game count plays one deal per suit class: that is only right if renaming the suits
+// never changes a hand's outcome. Two renamings generate them all: swapping suits 0 and 1, and
+// rotating the four suits.
+TEST(DrawTables, OutcomesDoNotDependOnWhichSuitIsWhich) {
+    SKIP_UNLESS_OPTIMISED();
+    constexpr std::array<std::array<int, 4>, 2> kRenamings{{{1, 0, 2, 3}, {1, 2, 3, 0}}};
+    for (const GameId game : kAllGames) {
+        SCOPED_TRACE(std::string(shortName(game)));
+        const auto& tables = odds::DrawTables::forGame(game);
+        const int deck = deckSize(game);
+        std::int64_t differing = 0;
+        std::array<CardCode, 5> hand{};
+        for (hand[4] = 4; hand[4] < deck; ++hand[4])
+            for (hand[3] = 3; hand[3] < hand[4]; ++hand[3])
+                for (hand[2] = 2; hand[2] < hand[3]; ++hand[2])
+                    for (hand[1] = 1; hand[1] < hand[2]; ++hand[1])
+                        for (hand[0] = 0; hand[0] < hand[1]; ++hand[0]) {
+                            const int outcome = tables.handOutcome(hand);
+                            for (const auto& renaming : kRenamings) {
+                                std::array<CardCode, 5> renamed{};
+                                for (std::size_t i = 0; i < 5; ++i) {
+                                    const CardCode card = hand[i];
+                                    renamed[i] =
+                                        card == kJoker
+                                            ? card
+                                            : renaming[static_cast<std::size_t>(suitIndex(card))] *
+                                                      13 +
+                                                  rankIndex(card);
+                                }
+                                std::sort(renamed.begin(), renamed.end());
+                                differing += tables.handOutcome(renamed) != outcome;
+                            }
+                        }
+        EXPECT_EQ(differing, 0);
+    }
+}
+
+TEST(DrawTables, TreasureTripsBonusOutcomesAreTheHandsThatCanHoldThreeThrees) {
+    const auto& tables = odds::DrawTables::forGame(GameId::TreasureTrips);
+    std::vector<int> bonusCodes;
+    for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
+        if (tables.outcome(slot).bonus) {
+            bonusCodes.push_back(tables.outcome(slot).code);
+        }
+    }
+    EXPECT_EQ(bonusCodes, (std::vector<int>{2, 5, 6, 9}));
+    if (testing::tablesAffordable(GameId::JokerWild)) {
+        EXPECT_EQ(odds::DrawTables::forGame(GameId::JokerWild).outcomeCount(), odds::kCodeSlots);
+    }
+}
+
+TEST(PayScale, OwnTablesAndGivenMultipliers) {
+    static_assert(odds::kTreasureHuntMean == 16.5);
+    const auto treasure = odds::ownPayScale(GameId::TreasureTrips);
+    EXPECT_EQ(treasure.bonus, 16.5);
+    EXPECT_EQ(treasure.multiplier[9], 250);
+    EXPECT_EQ(treasure.multiplier[1], 1);
+    const auto deuces = odds::ownPayScale(GameId::DeucesWild);
+    EXPECT_EQ(deuces.bonus, 0.0);
+    EXPECT_EQ(deuces.multiplier[10], 250);
+    EXPECT_EQ(deuces.multiplier[3], 1); // Flush and Straight share one row
+    EXPECT_EQ(deuces.multiplier[2], 1);
+    EXPECT_EQ(deuces.multiplier[0], 0);
+
+    const std::array<double, 9> nine{9, 8, 7, 6, 5, 4, 3, 2, 1};
+    EXPECT_FALSE(odds::payScaleFromMultipliers(GameId::DeucesWild, nine));
+    const auto jacks = odds::payScaleFromMultipliers(GameId::JacksOrBetter, nine);
+    ASSERT_TRUE(jacks);
+    EXPECT_EQ(jacks->multiplier[9], 9);
+    EXPECT_EQ(jacks->multiplier[1], 1);
+    EXPECT_EQ(odds::payScaleFromMultipliers(GameId::TreasureTrips, nine)->bonus, 16.5);
+}
+
+} // namespace
+} // namespace marivale

@@ -1,0 +1,125 @@
+#pragma once
+
+// Shared by the odds tests: repeatable deals, and a brute-force count of a hold that plays every
+// possible draw through the game's own AnalyzeHand, the way the board would.
+
+// Standard library
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <ostream>
+#include <vector>
+
+// Marivale
+#include "engine/card.h"
+#include "engine/game.h"
+#include "engine/hand_analysis.h"
+#include "engine/odds/outcome.h"
+#include "engine/random_source.h"
+#include "state/game_state.h"
+
+namespace marivale {
+
+// Names a game in test output ("JB") instead of its byte.
+inline void PrintTo(GameId game, std::ostream* out) {
+    *out << shortName(game);
+}
+
+} // namespace marivale
+
+namespace marivale::testing {
+
+#ifdef MARIVALE_ODDS_OPTIMISED
+inline constexpr bool kOptimisedBuild = true;
+#else
+inline constexpr bool kOptimisedBuild = false;
+#endif
+
+// Building a game's tables classifies every hand of its deck, which takes tens of seconds in a
+// sanitizer build: there the table tests run on Treasure Trips alone (joker deck and bonus).
+inline bool tablesAffordable(GameId game) {
+    return kOptimisedBuild || game == GameId::TreasureTrips;
+}
+
+using Deal = std::array<CardCode, 5>;
+
+// Final hands by code, and by code among the hands that earn the Treasure Hunt.
+struct CodeCounts {
+    std::array<std::int64_t, odds::kCodeSlots> all{};
+    std::array<std::int64_t, odds::kCodeSlots> bonus{};
+    std::int64_t draws{0};
+    friend bool operator==(const CodeCounts&, const CodeCounts&) = default;
+};
+
+inline std::vector<Deal> randomDeals(GameId game, int count, std::uint64_t seed) {
+    SeededRandomSource random(seed);
+    std::vector<Deal> deals;
+    while (static_cast<int>(deals.size()) < count) {
+        Deal deal{};
+        for (std::size_t i = 0; i < deal.size(); ++i) {
+            do {
+                deal[i] = static_cast<CardCode>(random.next() * deckSize(game));
+            } while (std::find(deal.begin(), deal.begin() + static_cast<long>(i), deal[i]) !=
+                     deal.begin() + static_cast<long>(i));
+        }
+        deals.push_back(deal);
+    }
+    return deals;
+}
+
+// Keeps the held positions, fills the others with every possible draw in turn and classifies
+// each final hand with AnalyzeHand.
+inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
+    std::vector<CardCode> stock;
+    for (CardCode card = 0; card < deckSize(game); ++card) {
+        if (std::find(deal.begin(), deal.end(), card) == deal.end()) {
+            stock.push_back(card);
+        }
+    }
+    std::vector<int> open;
+    for (int p = 0; p < 5; ++p) {
+        if (((held >> p) & 1u) == 0) {
+            open.push_back(p);
+        }
+    }
+    const int k = static_cast<int>(open.size());
+    const int n = static_cast<int>(stock.size());
+    std::vector<int> pick(static_cast<std::size_t>(k));
+    for (int i = 0; i < k; ++i) {
+        pick[static_cast<std::size_t>(i)] = i;
+    }
+    CodeCounts counts;
+    GameState state{};
+    while (true) {
+        for (int p = 0; p < 5; ++p) {
+            state.Hand[static_cast<std::size_t>(p)] =
+                static_cast<float>(deal[static_cast<std::size_t>(p)]);
+        }
+        for (int i = 0; i < k; ++i) {
+            state.Hand[static_cast<std::size_t>(open[static_cast<std::size_t>(i)])] =
+                static_cast<float>(
+                    stock[static_cast<std::size_t>(pick[static_cast<std::size_t>(i)])]);
+        }
+        const std::uint8_t code = AnalyzeHand(state, game).code;
+        ++counts.all[code];
+        if (game == GameId::TreasureTrips && isSet(state.BonusDue)) {
+            ++counts.bonus[code];
+        }
+        ++counts.draws;
+        // Next draw: lexicographic successor of the picked stock places.
+        int i = k - 1;
+        while (i >= 0 && pick[static_cast<std::size_t>(i)] == n - k + i) {
+            --i;
+        }
+        if (i < 0) {
+            break;
+        }
+        ++pick[static_cast<std::size_t>(i)];
+        for (int j = i + 1; j < k; ++j) {
+            pick[static_cast<std::size_t>(j)] = pick[static_cast<std::size_t>(j - 1)] + 1;
+        }
+    }
+    return counts;
+}
+
+} // namespace marivale::testing

@@ -24,8 +24,8 @@
 #include <QTimer>
 
 // Marivale
-#include "board/game_variant.h"
 #include "board/game_board.h"
+#include "board/game_variant.h"
 #include "engine/money_format.h"
 #include "shell/data_file.h"
 #include "shell/help_dialog.h"

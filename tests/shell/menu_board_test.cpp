@@ -10,8 +10,10 @@
 #include <QDir>
 #include <QFile>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -30,6 +32,7 @@ private slots:
     void cleanup();
     void visit_data();
     void visit();
+    void wholeSessionAndTheNextRun();
 
 private:
     QTemporaryDir config_{};
@@ -160,6 +163,123 @@ void MenuBoardTest::visit() {
     QFile file("mpdata.dat");
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), storedAfter);
+    QVERIFY(warnings.isEmpty());
+}
+
+namespace {
+
+QWidget* visibleTopLevel(const QString& name) {
+    for (QWidget* candidate : QApplication::topLevelWidgets()) {
+        if (candidate->objectName() == name && candidate->isVisible()) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+// Once the named board is up, plays on it and leaves with its Exit button.
+void onBoard(const QString& name, std::function<void(QWidget&)> play) {
+    QWidget* window = visibleTopLevel(name);
+    if (window == nullptr) {
+        QTimer::singleShot(10, [name, play] { onBoard(name, play); });
+        return;
+    }
+    play(*window);
+    window->findChild<QPushButton*>("Exit")->click();
+}
+
+void click(QWidget& window, const char* name) {
+    auto* button = window.findChild<QAbstractButton*>(name);
+    QVERIFY2(button != nullptr && button->isEnabled(), name);
+    button->click();
+}
+
+} // namespace
+
+// One run from an empty folder through two boards, Double Up switched on and used, Clear and
+// exit; the next run in the same folder reads the total back.
+void MenuBoardTest::wholeSessionAndTheNextRun() {
+    GameState state{};
+    applyStartupDefaults(state);
+    ScriptedRandomSource random;
+    // Jacks or Better deals a heart flush; Double Up shows an Ace; Deuces Wild deals nothing.
+    for (const int code : {27, 30, 34, 36, 38}) {
+        random.pushIndex(code, 52);
+    }
+    random.pushIndex(0, 52);
+    for (const int code : {2, 16, 32, 48, 24}) {
+        random.pushIndex(code, 52);
+    }
+    QStringList warnings;
+    MainMenu::Hooks hooks;
+    hooks.warn = [&warnings](const QString& text) {
+        warnings.append(text);
+    };
+    {
+        MainMenu menu(state, random, hooks);
+        menu.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QFile created("mpdata.dat");
+        QVERIFY(created.open(QIODevice::ReadOnly));
+        QCOMPARE(created.readAll(), QByteArray("0\r\n"));
+        QCOMPARE(menu.findChild<QGroupBox*>("StatFrame")->title(), QString());
+
+        QTest::mouseClick(menu.findChild<QWidget*>("sbPanel2"), Qt::LeftButton);
+        QCOMPARE(menu.findChild<QLabel*>("sbPanel1")->text(), QString("Status: DoubleUp Enabled"));
+        QTest::mouseClick(menu.findChild<QRadioButton*>("PSettings2"), Qt::LeftButton);
+
+        QString doubledCaption;
+        QTimer::singleShot(0, [&] {
+            onBoard("JBBoard", [&](QWidget& board) {
+                click(board, "Purchase");
+                click(board, "DrawDeal");
+                click(board, "Stand");
+                QTimer::singleShot(0, [&] {
+                    QWidget* dup = QApplication::activeModalWidget();
+                    QVERIFY(dup != nullptr && dup->objectName() == "frmDup");
+                    click(*dup, "High");
+                    doubledCaption = dup->findChild<QPushButton*>("RetBtn")->text();
+                    click(*dup, "RetBtn");
+                });
+                click(board, "Stand");
+                QCOMPARE(board.findChild<QLineEdit*>("Win")->text(), QString("$10.00"));
+            });
+        });
+        QTest::mouseClick(menu.findChild<QPushButton*>("JBBtn"), Qt::LeftButton);
+        QCOMPARE(doubledCaption, QString("&Take Doubled Winnings"));
+        QCOMPARE(menu.findChild<QLineEdit*>("WinLoss")->text(), QString("$9.00"));
+        QCOMPARE(menu.findChild<QGroupBox*>("StatFrame")->title(), QString("Winnings"));
+
+        QTest::mouseClick(menu.findChild<QPushButton*>("ClBtn"), Qt::LeftButton);
+        QCOMPARE(menu.findChild<QLineEdit*>("WinLoss")->text(), QString("$0.00"));
+        QCOMPARE(menu.findChild<QGroupBox*>("StatFrame")->title(), QString("Stats"));
+
+        QTimer::singleShot(0, [&] {
+            onBoard("DWBoard", [&](QWidget& board) {
+                QCOMPARE(board.findChild<QLineEdit*>("Bet")->text(), QString("$1.00"));
+                click(board, "Purchase");
+                click(board, "DrawDeal");
+                click(board, "Stand");
+                QCOMPARE(board.findChild<QPushButton*>("DrawDeal")->text(), QString("&Deal"));
+            });
+        });
+        QTest::mouseClick(menu.findChild<QPushButton*>("DWBtn"), Qt::LeftButton);
+        QCOMPARE(menu.findChild<QLineEdit*>("WinLoss")->text(), QString("-$1.00"));
+        QCOMPARE(menu.findChild<QGroupBox*>("StatFrame")->title(), QString("Losses"));
+        menu.close();
+    }
+    QFile saved("mpdata.dat");
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QCOMPARE(saved.readAll(), QByteArray("-1\r\n"));
+
+    GameState nextRun{};
+    applyStartupDefaults(nextRun);
+    MainMenu again(nextRun, random, hooks);
+    again.show();
+    QCOMPARE(nextRun.NetWinLoss, -1.0f);
+    QCOMPARE(again.findChild<QLineEdit*>("WinLoss")->text(), QString("-$1.00"));
+    QCOMPARE(again.findChild<QGroupBox*>("StatFrame")->title(), QString("Losses"));
+    QCOMPARE(again.findChild<QLabel*>("sbPanel1")->text(), QString("Status: DoubleUp Not Enabled"));
     QVERIFY(warnings.isEmpty());
 }
 

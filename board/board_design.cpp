@@ -60,6 +60,7 @@ QString styleSheet(const GameVariant& v) {
     const QString display = rgb(v.displayColour);
     return QStringLiteral(
                "QDialog { background: %1; }"
+               "QLabel, QRadioButton, QGroupBox, QLineEdit { font-weight: bold; }"
                "QLabel, QRadioButton { color: white; background: transparent; }"
                "QGroupBox { color: white; border: 1px solid white; border-radius: 3px;"
                " margin-top: 7px; }"
@@ -174,12 +175,12 @@ void buildCards(QDialog& window, BoardWidgets& w) {
 void buildStatistics(QDialog& window, BoardWidgets& w) {
     auto* frame =
         place(new QGroupBox(QStringLiteral("Play Statistics")), window, "Frame6", kStatsFrame);
-    label(*frame, "PurchasedLabel", QStringLiteral("Credits Purchased"), {150, 420, 1860, 300});
-    w.totPurchased = field(*frame, "TotPurchased", {2040, 390, 1320, 330});
-    label(*frame, "WinningsLabel", QStringLiteral("Winnings"), {3600, 420, 900, 300});
-    w.totWinGame = field(*frame, "TotWinGame", {4500, 390, 1320, 330});
-    w.plTitle = label(*frame, "PLTitle", QStringLiteral("Net Winnings"), {6060, 420, 1320, 300});
-    w.profLoss = field(*frame, "ProfLoss", {7440, 390, 1320, 330});
+    label(*frame, "PurchasedLabel", QStringLiteral("Credits Purchased"), {120, 420, 1920, 300});
+    w.totPurchased = field(*frame, "TotPurchased", {2100, 390, 1320, 330});
+    label(*frame, "WinningsLabel", QStringLiteral("Winnings"), {3600, 420, 1020, 300});
+    w.totWinGame = field(*frame, "TotWinGame", {4680, 390, 1320, 330});
+    w.plTitle = label(*frame, "PLTitle", QStringLiteral("Net Winnings"), {6180, 420, 1380, 300});
+    w.profLoss = field(*frame, "ProfLoss", {7620, 390, 1320, 330});
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 #include "bonus/double_up_dialog.h"
 
-// Standard library
-#include <algorithm>
-
 // Qt
 #include <QLabel>
 #include <QPushButton>
@@ -11,7 +8,7 @@
 #include "board/card_pictures.h"
 #include "bonus/twips.h"
 #include "bonus/wrap_button.h"
-#include "engine/card.h"
+#include "engine/bonus_games.h"
 
 namespace marivale {
 
@@ -28,28 +25,6 @@ constexpr TwipRect kReturnRect{360, 2865, 4680, 525};
 
 const QString kTakeCaption = QStringLiteral("&Take Doubled Winnings");
 const QString kReturnCaption = QStringLiteral("Re&turn");
-
-// Whether the guess wins on a card of this rank index: Low on Two to Seven, High on Nine to
-// King and the Ace. Eights are never drawn.
-bool guessWins(DoubleUpGuess choice, int rank) {
-    const bool low = rank >= 1 && rank <= 6;
-    return choice == DoubleUpGuess::Low ? low : !low;
-}
-
-// The factor after a correct guess: doubled, but never past the table limit.
-std::int16_t doubledFactor(std::int16_t factor) {
-    const int doubled = std::max(1, 2 * static_cast<int>(factor));
-    return static_cast<std::int16_t>(std::min<int>(doubled, DoubleUpDialog::kTableLimit));
-}
-
-// Draws a card from the 48 that are not Eights, one uniform value per try.
-CardCode drawCard(RandomSource& random) {
-    CardCode card = 0;
-    do {
-        card = std::clamp(static_cast<int>(random.next() * 52), 0, 51);
-    } while (rankOf(card) == Rank::Eight);
-    return card;
-}
 
 } // namespace
 
@@ -123,13 +98,12 @@ void DoubleUpDialog::guess(DoubleUpGuess choice) {
     if (!isSet(canGuess_) || state_.DoubleUpFactor >= kTableLimit) {
         return;
     }
-    const CardCode card = drawCard(random_);
-    pictures_.showOn(*card_, QString::number(card) + QStringLiteral(".gif"));
+    const GuessResult result = playGuess(state_, random_, choice);
+    pictures_.showOn(*card_, QString::number(result.card) + QStringLiteral(".gif"));
 
     // RetBtn is enabled before the guess buttons go, so the focus lands on it.
     return_->setEnabled(true);
-    if (guessWins(choice, rankIndex(card))) {
-        state_.DoubleUpFactor = doubledFactor(state_.DoubleUpFactor);
+    if (result.won) {
         return_->setText(kTakeCaption);
         if (state_.DoubleUpFactor >= kTableLimit) {
             limitNote_->show();
@@ -137,7 +111,6 @@ void DoubleUpDialog::guess(DoubleUpGuess choice) {
             high_->setEnabled(false);
         }
     } else {
-        state_.DoubleUpFactor = 0;
         canGuess_ = kFalse;
         return_->setText(kReturnCaption);
         high_->setEnabled(false);

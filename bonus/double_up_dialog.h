@@ -13,6 +13,7 @@
 #include <QDialog>
 
 // Marivale
+#include "engine/bonus_games.h"
 #include "engine/random_source.h"
 #include "state/game_state.h"
 
@@ -23,12 +24,10 @@ namespace marivale {
 
 class CardPictures;
 
-enum class DoubleUpGuess : std::uint8_t { Low, High };
-
 class DoubleUpDialog : public QDialog {
     Q_OBJECT
 public:
-    static constexpr std::int16_t kTableLimit = 16384;
+    static constexpr std::int16_t kTableLimit = kDoubleUpLimit;
 
     // Builds the window and opens the game: card back shown, DoubleUpFactor 1, RetBtn disabled.
     DoubleUpDialog(GameState& state, RandomSource& random, CardPictures& pictures,

@@ -13,6 +13,7 @@
 
 // Marivale
 #include "bonus/twips.h"
+#include "engine/bonus_games.h"
 #include "engine/money_format.h"
 
 #ifdef MARIVALE_HAVE_CHEST_ART
@@ -73,11 +74,6 @@ QIcon chestIcon() {
     icon.addPixmap(drawChest(1.0));
     icon.addPixmap(drawChest(2.0));
     return icon;
-}
-
-// The factor of one chest: 3, 6, ... 30, from a uniform value in [0, 1).
-int chestFactor(double value) {
-    return std::clamp(static_cast<int>(value * 10 + 1), 1, 10) * 3;
 }
 
 } // namespace
@@ -154,9 +150,7 @@ void TreasureHuntDialog::chooseChest() {
     if (state_ == nullptr) {
         return;
     }
-    random_.reseedFromClock();
-    const int factor = chestFactor(random_.next());
-    state_->BonusAmount = static_cast<float>(factor) * state_->BonusAmount;
+    openChest(*state_, random_);
     pay_->setText(QString::fromStdString(FormatMoney(state_->BonusAmount, pattern::kBonus)));
     close_->show();
 }

@@ -40,6 +40,26 @@ private:
     QString programDirectory_{};
 };
 
+namespace {
+
+// Queues cards of the 52-card deck, by code, for the next draws.
+void script(ScriptedRandomSource& random, std::initializer_list<int> codes) {
+    for (const int code : codes) {
+        random.pushIndex(code, 52);
+    }
+}
+
+// Menu hooks that collect the warnings the menu would show the player.
+MainMenu::Hooks collectingWarnings(QStringList& warnings) {
+    MainMenu::Hooks hooks;
+    hooks.warn = [&warnings](const QString& text) {
+        warnings.append(text);
+    };
+    return hooks;
+}
+
+} // namespace
+
 void MenuBoardTest::initTestCase() {
     QVERIFY(config_.isValid());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config_.path());
@@ -106,14 +126,9 @@ void MenuBoardTest::visit() {
     applyStartupDefaults(state);
     // Deuces Wild deals Three, Four, Seven, Ten, Queen and draws Five, Eight, Jack, King, Nine.
     ScriptedRandomSource random;
-    for (const int code : {2, 16, 32, 48, 11, 4, 20, 36, 51, 8}) {
-        random.pushIndex(code, 52);
-    }
+    script(random, {2, 16, 32, 48, 11, 4, 20, 36, 51, 8});
     QStringList warnings;
-    MainMenu::Hooks hooks;
-    hooks.warn = [&warnings](const QString& text) {
-        warnings.append(text);
-    };
+    const MainMenu::Hooks hooks = collectingWarnings(warnings);
     MainMenu menu(state, random, hooks);
     menu.show();
     QVERIFY(QTest::qWaitForWindowExposed(&menu));
@@ -203,18 +218,9 @@ void MenuBoardTest::wholeSessionAndTheNextRun() {
     applyStartupDefaults(state);
     ScriptedRandomSource random;
     // Jacks or Better deals a heart flush; Double Up shows an Ace; Deuces Wild deals nothing.
-    for (const int code : {27, 30, 34, 36, 38}) {
-        random.pushIndex(code, 52);
-    }
-    random.pushIndex(0, 52);
-    for (const int code : {2, 16, 32, 48, 24}) {
-        random.pushIndex(code, 52);
-    }
+    script(random, {27, 30, 34, 36, 38, 0, 2, 16, 32, 48, 24});
     QStringList warnings;
-    MainMenu::Hooks hooks;
-    hooks.warn = [&warnings](const QString& text) {
-        warnings.append(text);
-    };
+    const MainMenu::Hooks hooks = collectingWarnings(warnings);
     {
         MainMenu menu(state, random, hooks);
         menu.show();

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <stdexcept>
 
 // Marivale
@@ -19,6 +20,28 @@ namespace {
 
 constexpr std::uint8_t kBonusBit = 0x10;
 constexpr int kRawValues = 32;
+
+// Puts the sorted set with one more card into `out`, in ascending order; false when the card is
+// already in the set. Returns the new size through `size`.
+bool insertSorted(std::span<const CardCode> set, CardCode extra,
+                  std::array<CardCode, kHandSize>& out, int& size) {
+    size = 0;
+    bool placed = false;
+    for (const CardCode card : set) {
+        if (card == extra) {
+            return false;
+        }
+        if (!placed && extra < card) {
+            out[static_cast<std::size_t>(size++)] = extra;
+            placed = true;
+        }
+        out[static_cast<std::size_t>(size++)] = card;
+    }
+    if (!placed) {
+        out[static_cast<std::size_t>(size++)] = extra;
+    }
+    return true;
+}
 
 struct LazyTables {
     std::once_flag once{};
@@ -131,23 +154,9 @@ void DrawTables::countFours(int threads) {
                     auto& counts = fours_[subsetIndex(set)];
                     std::array<CardCode, kHandSize> hand{};
                     for (CardCode extra = 0; extra < deckSize_; ++extra) {
-                        // Insert the extra card in order; skip it when it is already in the set.
-                        int out = 0;
-                        bool duplicate = false;
-                        bool placed = false;
-                        for (const CardCode card : set) {
-                            duplicate = duplicate || card == extra;
-                            if (!placed && extra < card) {
-                                hand[static_cast<std::size_t>(out++)] = extra;
-                                placed = true;
-                            }
-                            hand[static_cast<std::size_t>(out++)] = card;
-                        }
-                        if (duplicate) {
+                        int size = 0;
+                        if (!insertSorted(set, extra, hand, size)) {
                             continue;
-                        }
-                        if (!placed) {
-                            hand[4] = extra;
                         }
                         ++counts[hands_[subsetIndex(hand)]];
                     }
@@ -174,22 +183,9 @@ void sumDown(int deck, int k, const std::vector<Larger>& larger, std::vector<Out
         OutcomeCounts& counts = out[index];
         for (CardCode extra = 0; extra < deck; ++extra) {
             int used = 0;
-            bool duplicate = false;
-            bool placed = false;
-            for (int i = 0; i < k; ++i) {
-                const CardCode card = set[static_cast<std::size_t>(i)];
-                duplicate = duplicate || card == extra;
-                if (!placed && extra < card) {
-                    bigger[static_cast<std::size_t>(used++)] = extra;
-                    placed = true;
-                }
-                bigger[static_cast<std::size_t>(used++)] = card;
-            }
-            if (duplicate) {
+            if (!insertSorted(std::span<const CardCode>(set.data(), static_cast<std::size_t>(k)),
+                              extra, bigger, used)) {
                 continue;
-            }
-            if (!placed) {
-                bigger[static_cast<std::size_t>(used++)] = extra;
             }
             const auto& add = larger[subsetIndex(
                 std::span<const CardCode>(bigger.data(), static_cast<std::size_t>(used)))];

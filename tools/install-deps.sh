@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the build, the game and the tests need, when any is missing.
 set -euo pipefail
-packages=(cmake g++ make pkg-config libgtest-dev libbenchmark-dev qt6-base-dev qt6-multimedia-dev
-          qt6-image-formats-plugins libgif-dev xvfb xauth fonts-dejavu-core)
+packages=(cmake g++ make pkg-config clang-format libgtest-dev libbenchmark-dev
+          qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-image-formats-plugins libgif-dev
+          fonts-dejavu-core fonts-liberation2
+          xvfb xauth openbox xdotool x11-utils imagemagick qt6ct)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -1,5 +1,6 @@
 // How fast the odds are: a game's tables from scratch, the 32 holds of one dealt hand once the
-// tables exist, and a whole game under the best strategy (tables built beforehand).
+// tables exist, a whole game under the best strategy (tables built beforehand), and the
+// marivale-odds tool as a fresh process from start to its last line.
 
 // Standard library
 #include <array>
@@ -15,6 +16,7 @@
 #include "engine/odds/parallel.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/random_source.h"
+#include "process_timing.h"
 
 using namespace marivale;
 
@@ -72,7 +74,25 @@ void wholeGame(benchmark::State& bench, GameId game) {
     bench.counters["return%"] = 100.0 * expected;
 }
 
+// The tool as the player runs it: a new process that builds the tables and plays the game.
+void toolProcess(benchmark::State& bench, std::vector<std::string> args) {
+    for (auto _ : bench) {
+        const double seconds = bench::timeProcess(MARIVALE_ODDS_TOOL, args);
+        if (seconds < 0.0) {
+            bench.SkipWithError("marivale-odds did not run");
+            return;
+        }
+        bench.SetIterationTime(seconds);
+    }
+}
+
 void registerAll() {
+    benchmark::RegisterBenchmark("Tool/JB", toolProcess, std::vector<std::string>{"JB"})
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime()
+        ->Iterations(1)
+        ->Repetitions(15)
+        ->ReportAggregatesOnly(true);
     for (const GameId game : kAllGames) {
         const std::string name(shortName(game));
         benchmark::RegisterBenchmark(("BuildTables/" + name).c_str(), buildTables, game)

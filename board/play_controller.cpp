@@ -2,6 +2,7 @@
 
 // Standard library
 #include <array>
+#include <cmath>
 
 // Marivale
 #include "engine/dealing.h"
@@ -31,6 +32,15 @@ PlayController::PlayController(const GameVariant& variant, GameState& state, Ran
 
 void PlayController::showMoney(Control control, float value, std::string_view pattern) {
     view_.setText(control, FormatMoney(value, pattern));
+}
+
+// The five cards on the board as codes.
+HandCards PlayController::cards() const {
+    HandCards codes{};
+    for (int p = 0; p < 5; ++p) {
+        codes[static_cast<std::size_t>(p)] = static_cast<CardCode>(std::lround(state_.Hand[p]));
+    }
+    return codes;
 }
 
 void PlayController::showPayTable() {
@@ -76,16 +86,20 @@ void PlayController::load() {
     showMoney(Control::ProfLoss, 0.0f, pattern::kStatistic);
     view_.bell(BellCommand::Open);
     view_.showCardBacks();
+    observer_->visitStarted(variant_.game, state_.Credits);
 }
 
 // Ends a visit: remaining credits are cashed out and the visit's net joins the running total.
 void PlayController::unload() {
+    float cashed = 0.0f;
     if (state_.Credits > 0.0f) {
+        cashed = state_.Credits;
         state_.GameWinnings = state_.GameWinnings + state_.Credits;
         state_.Credits = 0.0f;
     }
     state_.NetWinLoss = state_.NetWinLoss + (state_.GameWinnings - state_.TotalPurchased);
     view_.bell(BellCommand::Close);
+    observer_->visitEnded(cashed);
 }
 
 void PlayController::drawDealClicked() {
@@ -162,6 +176,7 @@ void PlayController::deal() {
     view_.setText(Control::DrawDeal, "D&raw");
     view_.setText(Control::Stand, "&Stand");
     view_.handDealt();
+    observer_->dealt(cards(), state_.BetAmount, state_.Credits);
 }
 
 void PlayController::draw() {
@@ -170,18 +185,31 @@ void PlayController::draw() {
         held[p] = isSet(state_.Held[p]);
     }
     view_.handPlayed(held);
+    observer_->held(held);
     DealCards(state_, variant_.game, random_);
     view_.showCards();
+    const HandCards finalCards = cards();
     analysis_ = AnalyzeHand(state_, variant_.game);
     state_.HandRank = analysis_.code;
+    reportDrawn(finalCards);
     finishHand();
 }
 
 void PlayController::stand() {
     view_.handPlayed({true, true, true, true, true});
+    observer_->held({true, true, true, true, true});
+    const HandCards finalCards = cards();
     analysis_ = AnalyzeHand(state_, variant_.game);
     state_.HandRank = analysis_.code;
+    reportDrawn(finalCards);
     finishHand();
+}
+
+// Tells the observer the final cards (read before the analysis marks Hand position 0), their
+// code and name.
+void PlayController::reportDrawn(const HandCards& finalCards) {
+    observer_->drawn(finalCards, state_.HandRank,
+                     HandName(variant_.game, state_.HandRank, state_, analysis_.acePairMarked));
 }
 
 void PlayController::finishHand() {
@@ -208,6 +236,7 @@ void PlayController::takeScore() {
 // Risks the win in the Double Up window; a factor above 0 pays that multiple of the win.
 void PlayController::doubleUp() {
     view_.runDoubleUp();
+    observer_->doubled(state_.DoubleUpFactor);
     view_.showCardBacks();
     if (state_.DoubleUpFactor > 0) {
         announceHand();
@@ -234,6 +263,7 @@ void PlayController::settleHand() {
         return;
     }
     if (settlement.bonusPlayed) {
+        observer_->bonus(state_.BonusAmount);
         view_.showCardBacks();
     }
     showMoney(Control::Credit, state_.Credits, pattern::kCredit);
@@ -254,12 +284,14 @@ void PlayController::endHand() {
     view_.setText(Control::DrawDeal, "&Deal");
     view_.setText(Control::Stand, "&Cash Out");
     setMoneyButtonsEnabled(true);
+    observer_->settled(state_.WinAmount, state_.Credits);
 }
 
 void PlayController::enterDoubleUp() {
     state_.DrawPhase = 2;
     view_.setText(Control::Stand, "&Double      Up");
     view_.setText(Control::DrawDeal, "&Take Score");
+    observer_->doubleUpOffered();
 }
 
 void PlayController::purchaseClicked() {
@@ -274,6 +306,7 @@ void PlayController::purchaseClicked() {
     state_.TotalPurchased = state_.TotalPurchased + amount;
     showMoney(Control::TotPurchased, state_.TotalPurchased, pattern::kStatistic);
     showNet(pattern::kStatistic);
+    observer_->purchased(amount, state_.Credits);
 }
 
 void PlayController::betUpClicked() {
@@ -305,11 +338,13 @@ void PlayController::cashOut() {
         view_.setText(Control::Output2, kCashOutRefused);
         return;
     }
+    const float amount = state_.Credits;
     state_.GameWinnings = state_.GameWinnings + state_.Credits;
     showMoney(Control::TotWinGame, state_.GameWinnings, pattern::kStatistic);
     state_.Credits = 0.0f;
     showMoney(Control::Credit, state_.Credits, pattern::kCredit);
     showNet(pattern::kStatisticPlain);
+    observer_->cashedOut(amount);
 }
 
 } // namespace marivale

@@ -2,10 +2,12 @@
 
 // The play of a hand and the money of a visit, for any of the four boards: the phases and their
 // captions, the credit check, holds, draw and stand, Take Score and Double Up, purchases, the
-// bet, cash-out, and the board's load and unload.
+// bet, cash-out, and the board's load and unload. What happens is also told to an optional
+// observer.
 
 #include "board/board_view.h"
 #include "board/game_variant.h"
+#include "board/hand_observer.h"
 #include "engine/hand_analysis.h"
 #include "engine/random_source.h"
 #include "state/game_state.h"
@@ -16,6 +18,8 @@ class PlayController {
 public:
     PlayController(const GameVariant& variant, GameState& state, RandomSource& random,
                    BoardView& view);
+    PlayController(const PlayController&) = delete;
+    PlayController& operator=(const PlayController&) = delete;
 
     void load();
     void unload();
@@ -28,6 +32,8 @@ public:
     void betDnClicked();
 
     const GameVariant& variant() const { return variant_; }
+    // The one observer of the visit's events; nullptr tells nobody.
+    void setObserver(HandObserver* observer) { observer_ = observer ? observer : &nobody_; }
 
 private:
     void deal();
@@ -47,12 +53,16 @@ private:
     void showMoney(Control control, float value, std::string_view pattern);
     void showPayTable();
     void showNet(std::string_view pattern);
+    HandCards cards() const;
+    void reportDrawn(const HandCards& finalCards);
 
     const GameVariant& variant_;
     GameState& state_;
     RandomSource& random_;
     BoardView& view_;
     HandAnalysis analysis_{};
+    HandObserver nobody_{};
+    HandObserver* observer_{&nobody_};
 };
 
 } // namespace marivale

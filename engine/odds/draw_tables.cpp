@@ -5,14 +5,16 @@
 #include <atomic>
 #include <bit>
 #include <chrono>
+#include <condition_variable>
 #include <memory>
 #include <mutex>
-#include <span>
 #include <stdexcept>
 
 // Marivale
 #include "engine/hand_analysis.h"
+#include "engine/odds/deal_classes.h"
 #include "engine/odds/parallel.h"
+#include "engine/odds/suit_classes.h"
 #include "state/game_state.h"
 
 namespace marivale::odds {
@@ -20,47 +22,33 @@ namespace {
 
 constexpr std::uint8_t kBonusBit = 0x10;
 constexpr int kRawValues = 32;
+constexpr std::size_t kClassifyChunk = 2048;
 
-// Puts the sorted set with one more card into `out`, in ascending order; false when the card is
-// already in the set. Returns the new size through `size`.
-bool insertSorted(std::span<const CardCode> set, CardCode extra,
-                  std::array<CardCode, kHandSize>& out, int& size) {
-    size = 0;
-    bool placed = false;
-    for (const CardCode card : set) {
-        if (card == extra) {
-            return false;
-        }
-        if (!placed && extra < card) {
-            out[static_cast<std::size_t>(size++)] = extra;
-            placed = true;
-        }
-        out[static_cast<std::size_t>(size++)] = card;
+// How many cards each of the 32 masks keeps.
+constexpr std::array<std::uint8_t, 32> kMaskSize = [] {
+    std::array<std::uint8_t, 32> sizes{};
+    for (unsigned mask = 0; mask < 32; ++mask) {
+        sizes[mask] = static_cast<std::uint8_t>(std::popcount(mask));
     }
-    if (!placed) {
-        out[static_cast<std::size_t>(size++)] = extra;
-    }
-    return true;
-}
+    return sizes;
+}();
 
 struct LazyTables {
-    std::once_flag once{};
-    std::atomic<const DrawTables*> ready{nullptr};
+    std::mutex mutex{};
+    std::condition_variable_any changed{};
+    bool building{false};
     std::unique_ptr<DrawTables> tables{};
+    std::atomic<const DrawTables*> ready{nullptr};
 };
 
 // One lazily built table set per game, indexed by GameId.
-std::array<LazyTables, 4>& lazyTables() {
-    static std::array<LazyTables, 4> all{};
-    return all;
-}
-
 LazyTables& lazyFor(GameId game) {
-    return lazyTables()[static_cast<std::size_t>(game)];
+    static std::array<LazyTables, 4> all{};
+    return all[static_cast<std::size_t>(game)];
 }
 
 // Classifies five ascending cards with the game's own analysis: code, plus the bonus bit.
-std::uint8_t classify(GameState& state, GameId game, const std::array<CardCode, kHandSize>& cards) {
+std::uint8_t classify(GameState& state, GameId game, std::span<const CardCode, kHandSize> cards) {
     for (int i = 0; i < kHandSize; ++i) {
         state.Hand[static_cast<std::size_t>(i)] =
             static_cast<float>(cards[static_cast<std::size_t>(i)]);
@@ -72,57 +60,173 @@ std::uint8_t classify(GameState& state, GameId game, const std::array<CardCode, 
     return static_cast<std::uint8_t>(code | (bonus ? kBonusBit : 0));
 }
 
+// For each mask: its highest position, and the mask without it.
+struct MaskSplit {
+    std::uint8_t top{0};
+    std::uint8_t rest{0};
+};
+constexpr std::array<MaskSplit, 32> kMaskSplit = [] {
+    std::array<MaskSplit, 32> splits{};
+    for (unsigned mask = 1; mask < 32; ++mask) {
+        const int top = std::bit_width(mask) - 1;
+        splits[mask] = {static_cast<std::uint8_t>(top),
+                        static_cast<std::uint8_t>(mask & ~(1u << top))};
+    }
+    return splits;
+}();
+
+// The colex number of every subset of the ascending deal, by mask over its positions.
+std::array<std::uint32_t, 32> subsetNumbers(std::span<const CardCode, kHandSize> ascending) {
+    std::array<std::uint32_t, 32> number{};
+    for (unsigned mask = 1; mask < 32; ++mask) {
+        // The highest position holds the largest card, so it takes the last place of the set.
+        const MaskSplit split = kMaskSplit[mask];
+        number[mask] =
+            number[split.rest] + kBinomial[ascending[split.top]][kMaskSize[split.rest] + 1u];
+    }
+    return number;
+}
+
+// The colex number of the ascending set without its card at `omitted`.
+std::uint32_t numberWithout(std::span<const CardCode> set, std::size_t omitted) {
+    std::uint32_t number = 0;
+    int place = 0;
+    for (std::size_t i = 0; i < set.size(); ++i) {
+        if (i != omitted) {
+            number += kBinomial[set[i]][++place];
+        }
+    }
+    return number;
+}
+
+using Sums = std::vector<std::array<std::uint64_t, kMaxOutcomes>>;
+
+// Each set of `size` cards lies in (5 - size) sets of one card more for every hand containing
+// it; summing over a class's members counts each member `weight` times. Exact division or the
+// outcomes depend on the suits.
+template <typename Counts>
+void divideSums(const Sums& sums, const std::vector<SuitClass>& classes, int size,
+                std::vector<Counts>& out) {
+    out.assign(classes.size(), {});
+    for (std::size_t id = 0; id < classes.size(); ++id) {
+        const std::uint64_t divisor = static_cast<std::uint64_t>(classes[id].weight) *
+                                      static_cast<unsigned>(kHandSize - size);
+        for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+            const std::uint64_t sum = sums[id][static_cast<std::size_t>(slot)];
+            if (sum % divisor != 0) {
+                throw std::logic_error("hand outcomes depend on which suit is which");
+            }
+            out[id][static_cast<std::size_t>(slot)] =
+                static_cast<typename Counts::value_type>(sum / divisor);
+        }
+    }
+}
+
+// The counts of the sets of `size` cards from those of `size + 1` cards.
+template <typename Larger, typename Smaller>
+void sumDown(const SubsetClassTables& sets, int size, const std::vector<Larger>& larger,
+             std::vector<Smaller>& out) {
+    const auto& bigger = sets.classes[static_cast<std::size_t>(size + 1)];
+    const auto& classOf = sets.classOfSet[static_cast<std::size_t>(size)];
+    Sums sums(sets.classes[static_cast<std::size_t>(size)].size());
+    for (std::size_t id = 0; id < bigger.size(); ++id) {
+        const SuitClass& rep = bigger[id];
+        for (std::size_t omitted = 0; omitted < rep.size; ++omitted) {
+            auto& sum = sums[classOf[numberWithout(rep.set(), omitted)]];
+            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+                sum[static_cast<std::size_t>(slot)] +=
+                    static_cast<std::uint64_t>(rep.weight) *
+                    static_cast<std::uint64_t>(larger[id][static_cast<std::size_t>(slot)]);
+            }
+        }
+    }
+    divideSums(sums, sets.classes[static_cast<std::size_t>(size)], size, out);
+}
+
 } // namespace
 
 const DrawTables& DrawTables::forGame(GameId game) {
+    return *forGameUnlessStopped(game, {});
+}
+
+const DrawTables* DrawTables::forGameUnlessStopped(GameId game, std::stop_token stop) {
     LazyTables& lazy = lazyFor(game);
-    std::call_once(lazy.once, [&] {
-        lazy.tables = std::make_unique<DrawTables>(game, defaultThreadCount());
-        lazy.ready.store(lazy.tables.get(), std::memory_order_release);
-    });
-    return *lazy.tables;
+    std::unique_lock lock(lazy.mutex);
+    while (!lazy.tables) {
+        if (lazy.building) {
+            // Another caller builds them: wait for it, or give up when asked to.
+            if (!lazy.changed.wait(lock, stop, [&] { return !lazy.building; })) {
+                return nullptr;
+            }
+            continue;
+        }
+        lazy.building = true;
+        lock.unlock();
+        std::unique_ptr<DrawTables> built;
+        try {
+            built = std::make_unique<DrawTables>(game, defaultThreadCount(), stop);
+        } catch (const BuildStopped&) {
+        } catch (...) {
+            lock.lock();
+            lazy.building = false;
+            lazy.changed.notify_all();
+            throw;
+        }
+        lock.lock();
+        lazy.building = false;
+        if (built) {
+            lazy.tables = std::move(built);
+            lazy.ready.store(lazy.tables.get(), std::memory_order_release);
+        }
+        lazy.changed.notify_all();
+        if (!lazy.tables) {
+            return nullptr;
+        }
+    }
+    return lazy.tables.get();
 }
 
 const DrawTables* DrawTables::ifBuilt(GameId game) {
     return lazyFor(game).ready.load(std::memory_order_acquire);
 }
 
-DrawTables::DrawTables(GameId game, int threads)
+DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     : game_(game), deckSize_(marivale::deckSize(game)) {
     const auto start = std::chrono::steady_clock::now();
-    classifyHands(threads);
-    countFours(threads);
+    classes_ = &subsetClassTables(deckSize_);
+    classifyDeals(threads, stop);
+    if (stop.stop_requested()) {
+        throw BuildStopped{};
+    }
+    countFours();
     sumSmallerSets();
     buildSeconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Classifies every 5-card hand, then gives each outcome that occurs its slot.
-void DrawTables::classifyHands(int threads) {
-    hands_.assign(binomial(deckSize_, kHandSize), 0);
-    std::vector<std::array<bool, kRawValues>> seen(static_cast<std::size_t>(threads));
-    // One task per highest card: its hands fill one contiguous run of colex numbers.
-    parallelFor(deckSize_ - (kHandSize - 1), threads, [&](int worker, int task) {
-        const int c4 = deckSize_ - 1 - task;
+// Classifies one deal of every suit class, then gives each outcome that occurs its slot.
+void DrawTables::classifyDeals(int threads, std::stop_token stop) {
+    const std::vector<DealClass>& deals = dealClasses(deckSize_);
+    dealOutcomes_.assign(deals.size(), 0);
+    std::vector<std::array<bool, kRawValues>> seen(static_cast<std::size_t>(std::max(threads, 1)));
+    const int chunks = static_cast<int>((deals.size() + kClassifyChunk - 1) / kClassifyChunk);
+    parallelFor(chunks, threads, [&](int worker, int chunk) {
+        if (stop.stop_requested()) {
+            return;
+        }
         GameState state{};
         auto& mine = seen[static_cast<std::size_t>(worker)];
-        for (int c3 = 3; c3 < c4; ++c3) {
-            for (int c2 = 2; c2 < c3; ++c2) {
-                for (int c1 = 1; c1 < c2; ++c1) {
-                    for (int c0 = 0; c0 < c1; ++c0) {
-                        const std::array<CardCode, kHandSize> cards{c0, c1, c2, c3, c4};
-                        const std::uint8_t raw = classify(state, game_, cards);
-                        hands_[subsetIndex(cards)] = raw;
-                        mine[raw] = true;
-                    }
-                }
-            }
+        const std::size_t first = static_cast<std::size_t>(chunk) * kClassifyChunk;
+        const std::size_t last = std::min(deals.size(), first + kClassifyChunk);
+        for (std::size_t i = first; i < last; ++i) {
+            const std::uint8_t raw = classify(state, game_, deals[i].cards);
+            dealOutcomes_[i] = raw;
+            mine[raw] = true;
         }
     });
 
-    std::array<std::uint8_t, kRawValues> slotOfRaw{};
     for (int code = 0; code < kCodeSlots; ++code) {
         outcomes_[static_cast<std::size_t>(code)] = Outcome{static_cast<std::uint8_t>(code), false};
-        slotOfRaw[static_cast<std::size_t>(code)] = static_cast<std::uint8_t>(code);
+        slotOfRaw_[static_cast<std::size_t>(code)] = static_cast<std::uint8_t>(code);
     }
     outcomeCount_ = kCodeSlots;
     for (int code = 0; code < kCodeSlots; ++code) {
@@ -135,139 +239,99 @@ void DrawTables::classifyHands(int threads) {
         }
         outcomes_[static_cast<std::size_t>(outcomeCount_)] =
             Outcome{static_cast<std::uint8_t>(code), true};
-        slotOfRaw[static_cast<std::size_t>(raw)] = static_cast<std::uint8_t>(outcomeCount_++);
+        slotOfRaw_[static_cast<std::size_t>(raw)] = static_cast<std::uint8_t>(outcomeCount_++);
     }
-    for (auto& value : hands_) {
-        value = slotOfRaw[value];
-    }
-}
-
-// For every 4-card set, counts the hands that complete it with each remaining card.
-void DrawTables::countFours(int threads) {
-    fours_.assign(binomial(deckSize_, 4), {});
-    parallelFor(deckSize_ - 3, threads, [&](int, int task) {
-        const int c3 = deckSize_ - 1 - task;
-        for (int c2 = 2; c2 < c3; ++c2) {
-            for (int c1 = 1; c1 < c2; ++c1) {
-                for (int c0 = 0; c0 < c1; ++c0) {
-                    const std::array<CardCode, 4> set{c0, c1, c2, c3};
-                    auto& counts = fours_[subsetIndex(set)];
-                    std::array<CardCode, kHandSize> hand{};
-                    for (CardCode extra = 0; extra < deckSize_; ++extra) {
-                        int size = 0;
-                        if (!insertSorted(set, extra, hand, size)) {
-                            continue;
-                        }
-                        ++counts[hands_[subsetIndex(hand)]];
-                    }
-                }
-            }
-        }
-    });
-}
-
-namespace {
-
-// Sums the counts of every (k+1)-set over the k-sets it contains; each hand is then counted
-// (5 - k) times, once per card it adds to the k-set, so the sums are divided by that.
-template <typename Larger>
-void sumDown(int deck, int k, const std::vector<Larger>& larger, std::vector<OutcomeCounts>& out) {
-    out.assign(binomial(deck, k), {});
-    std::array<CardCode, kHandSize> set{};
-    std::array<CardCode, kHandSize> bigger{};
-    // Walk every k-set in colex order by its ascending cards.
-    for (int i = 0; i < k; ++i) {
-        set[static_cast<std::size_t>(i)] = i;
-    }
-    for (std::uint32_t index = 0; index < out.size(); ++index) {
-        OutcomeCounts& counts = out[index];
-        for (CardCode extra = 0; extra < deck; ++extra) {
-            int used = 0;
-            if (!insertSorted(std::span<const CardCode>(set.data(), static_cast<std::size_t>(k)),
-                              extra, bigger, used)) {
-                continue;
-            }
-            const auto& add = larger[subsetIndex(
-                std::span<const CardCode>(bigger.data(), static_cast<std::size_t>(used)))];
-            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                counts[static_cast<std::size_t>(slot)] += add[static_cast<std::size_t>(slot)];
-            }
-        }
-        for (auto& count : counts) {
-            count /= kHandSize - k;
-        }
-        // Next k-set in colex order: raise the lowest card that can rise, reset those below it.
-        for (int i = 0; i < k; ++i) {
-            const CardCode limit = i + 1 < k ? set[static_cast<std::size_t>(i + 1)] : deck;
-            if (set[static_cast<std::size_t>(i)] + 1 < limit) {
-                ++set[static_cast<std::size_t>(i)];
-                for (int j = 0; j < i; ++j) {
-                    set[static_cast<std::size_t>(j)] = j;
-                }
-                break;
-            }
-        }
+    for (auto& value : dealOutcomes_) {
+        value = slotOfRaw_[value];
     }
 }
 
-} // namespace
+// Every hand of a deal class holds its four-card subsets: summed over the classes, each class of
+// four-card sets collects the hands that contain its members.
+void DrawTables::countFours() {
+    const std::vector<DealClass>& deals = dealClasses(deckSize_);
+    const auto& classOf = classes_->classOfSet[4];
+    Sums sums(classes_->classes[4].size());
+    for (std::size_t i = 0; i < deals.size(); ++i) {
+        const std::span<const CardCode> cards(deals[i].cards);
+        for (std::size_t omitted = 0; omitted < cards.size(); ++omitted) {
+            sums[classOf[numberWithout(cards, omitted)]][dealOutcomes_[i]] += deals[i].weight;
+        }
+    }
+    divideSums(sums, classes_->classes[4], 4, fours_);
+}
 
 void DrawTables::sumSmallerSets() {
-    sumDown(deckSize_, 3, fours_, threes_);
-    sumDown(deckSize_, 2, threes_, twos_);
-    sumDown(deckSize_, 1, twos_, ones_);
+    sumDown(*classes_, 3, fours_, threes_);
+    sumDown(*classes_, 2, threes_, twos_);
+    sumDown(*classes_, 1, twos_, ones_);
     std::vector<OutcomeCounts> none;
-    sumDown(deckSize_, 0, ones_, none);
+    sumDown(*classes_, 0, ones_, none);
     all_ = none.front();
 }
 
 int DrawTables::handOutcome(std::span<const CardCode, kHandSize> ascending) const {
-    return hands_[subsetIndex(ascending)];
+    GameState state{};
+    return slotOfRaw_[classify(state, game_, ascending)];
+}
+
+void DrawTables::subsetClasses(std::span<const CardCode, kHandSize> ascending,
+                               SubsetClasses& out) const {
+    const auto number = subsetNumbers(ascending);
+    out[0] = 0;
+    out[31] = 0;
+    for (unsigned mask = 1; mask < 31; ++mask) {
+        out[mask] = classes_->classOfSet[kMaskSize[mask]][number[mask]];
+    }
+}
+
+int DrawTables::classCount(int size) const {
+    return static_cast<int>(classes_->classes[static_cast<std::size_t>(size)].size());
+}
+
+void DrawTables::addClassCounts(int size, int id, int sign, OutcomeCounts& into) const {
+    const auto add = [&](const auto& counts) {
+        for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+            into[static_cast<std::size_t>(slot)] +=
+                sign * static_cast<std::int32_t>(counts[static_cast<std::size_t>(slot)]);
+        }
+    };
+    const auto at = static_cast<std::size_t>(id);
+    switch (size) {
+    case 0:
+        add(all_);
+        break;
+    case 1:
+        add(ones_[at]);
+        break;
+    case 2:
+        add(twos_[at]);
+        break;
+    case 3:
+        add(threes_[at]);
+        break;
+    default:
+        add(fours_[at]);
+        break;
+    }
 }
 
 void DrawTables::supersetCounts(std::span<const CardCode, kHandSize> ascending,
                                 SubsetCounts& out) const {
-    std::array<std::uint32_t, 32> index{};
-    for (unsigned mask = 1; mask < 32; ++mask) {
-        // The highest position holds the largest card, so it takes the last place of the set.
-        const int top = std::bit_width(mask) - 1;
-        const unsigned rest = mask & ~(1u << top);
-        index[mask] = index[rest] +
-                      kBinomial[ascending[static_cast<std::size_t>(top)]][std::popcount(rest) + 1];
+    SubsetClasses ids{};
+    subsetClasses(ascending, ids);
+    for (unsigned mask = 0; mask < 31; ++mask) {
+        out[mask] = {};
+        addClassCounts(kMaskSize[mask], ids[mask], 1, out[mask]);
     }
-    for (unsigned mask = 0; mask < 32; ++mask) {
-        OutcomeCounts& counts = out[mask];
-        switch (std::popcount(mask)) {
-        case 0:
-            counts = all_;
-            break;
-        case 1:
-            counts = ones_[index[mask]];
-            break;
-        case 2:
-            counts = twos_[index[mask]];
-            break;
-        case 3:
-            counts = threes_[index[mask]];
-            break;
-        case 4: {
-            const auto& small = fours_[index[mask]];
-            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                counts[static_cast<std::size_t>(slot)] = small[static_cast<std::size_t>(slot)];
-            }
-            break;
-        }
-        default:
-            counts = {};
-            counts[hands_[index[mask]]] = 1;
-            break;
-        }
-    }
+    out[31] = {};
+    out[31][static_cast<std::size_t>(handOutcome(ascending))] = 1;
 }
 
 std::size_t DrawTables::memoryBytes() const {
-    return hands_.size() * sizeof(hands_[0]) + fours_.size() * sizeof(fours_[0]) +
-           (threes_.size() + twos_.size() + ones_.size() + 1) * sizeof(OutcomeCounts);
+    return classes_->memoryBytes() + dealOutcomes_.size() * sizeof(dealOutcomes_[0]) +
+           fours_.size() * sizeof(fours_[0]) + threes_.size() * sizeof(threes_[0]) +
+           twos_.size() * sizeof(twos_[0]) + (ones_.size() + 1) * sizeof(OutcomeCounts);
 }
 
 } // namespace marivale::odds

@@ -14,45 +14,155 @@ namespace {
 
 constexpr int kChunk = 512;
 constexpr int kHeldCounts = kHandSize + 1;
+constexpr unsigned kAllHeld = kHoldCount - 1;
+// Returns this close to the best are compared again through their exact counts.
+constexpr double kNearTie = 1e-9;
 
-// One worker's sums, kept apart by hold size so that each is divided once by its draw count.
+constexpr std::array<std::uint8_t, kHoldCount> kMaskSize = [] {
+    std::array<std::uint8_t, kHoldCount> sizes{};
+    for (unsigned mask = 0; mask < kHoldCount; ++mask) {
+        sizes[mask] = static_cast<std::uint8_t>(std::popcount(mask));
+    }
+    return sizes;
+}();
+
+// One worker's final hands, kept apart by hold size so that each is divided once by its draws.
 struct alignas(64) Totals {
-    std::array<long double, kHeldCounts> paid{}; // deal weight x pay of every final hand
     std::array<std::array<std::uint64_t, kMaxOutcomes>, kHeldCounts> hands{};
 };
 
-void playClass(const DrawTables& tables, const OutcomeValues& values,
-               const std::array<double, kHeldCounts>& draws, const DealClass& deal,
-               SubsetCounts& counts, Totals& totals) {
-    countHolds(tables, deal.cards, counts);
-    std::array<double, kHoldCount> paid{};
-    for (int mask = 0; mask < kHoldCount; ++mask) {
-        const OutcomeCounts& hold = counts[static_cast<std::size_t>(mask)];
-        double sum = 0.0;
-        for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-            sum += hold[static_cast<std::size_t>(slot)] * values[static_cast<std::size_t>(slot)];
+// What the game needs of one pay scale: each slot's pay, and for every suit class of the sets
+// of up to four cards what all the hands containing one of its sets pay together.
+struct Pays {
+    OutcomeValues values{};
+    std::array<std::vector<double>, kHandSize> ofClass{};
+    std::array<double, kHeldCounts> draws{};
+    std::array<double, kHeldCounts> perDraw{}; // 1 / draws
+};
+
+Pays paysFor(const DrawTables& tables, const PayScale& scale) {
+    Pays pays;
+    pays.values = outcomeValues(tables, scale);
+    for (int size = 0; size < kHandSize; ++size) {
+        auto& ofClass = pays.ofClass[static_cast<std::size_t>(size)];
+        ofClass.resize(static_cast<std::size_t>(tables.classCount(size)));
+        for (std::size_t id = 0; id < ofClass.size(); ++id) {
+            OutcomeCounts counts{};
+            tables.addClassCounts(size, static_cast<int>(id), 1, counts);
+            double sum = 0.0;
+            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+                sum += counts[static_cast<std::size_t>(slot)] *
+                       pays.values[static_cast<std::size_t>(slot)];
+            }
+            ofClass[id] = sum;
         }
-        paid[static_cast<std::size_t>(mask)] = sum;
     }
-    int best = 0;
-    double bestReturn = paid[0] / draws[0];
-    for (int mask = 1; mask < kHoldCount; ++mask) {
-        const double expected =
-            paid[static_cast<std::size_t>(mask)] /
-            draws[static_cast<std::size_t>(std::popcount(static_cast<unsigned>(mask)))];
-        if (expected > bestReturn) {
-            bestReturn = expected;
+    for (int held = 0; held < kHeldCounts; ++held) {
+        pays.draws[static_cast<std::size_t>(held)] =
+            static_cast<double>(drawsFor(tables.deckSize(), held));
+        pays.perDraw[static_cast<std::size_t>(held)] =
+            1.0 / pays.draws[static_cast<std::size_t>(held)];
+    }
+    return pays;
+}
+
+// Takes from every set without the card at Bit the same set with it, over all 32 sets.
+template <unsigned Bit> void subtractWith(std::array<double, kHoldCount>& sets) {
+    for (unsigned base = 0; base < kHoldCount; base += 2 * Bit) {
+        for (unsigned low = 0; low < Bit; ++low) {
+            sets[base + low] -= sets[base + low + Bit];
+        }
+    }
+}
+
+// The final hands of one hold by inclusion and exclusion over the discarded cards.
+void holdCounts(const DrawTables& tables, const SubsetClasses& ids, int dealSlot, unsigned held,
+                OutcomeCounts& out) {
+    out = {};
+    const unsigned discarded = kAllHeld & ~held;
+    for (unsigned extra = discarded;; extra = (extra - 1) & discarded) {
+        const unsigned set = held | extra;
+        const int sign = (kMaskSize[extra] & 1u) != 0 ? -1 : 1;
+        if (set == kAllHeld) {
+            out[static_cast<std::size_t>(dealSlot)] += sign;
+        } else {
+            tables.addClassCounts(kMaskSize[set], ids[set], sign, out);
+        }
+        if (extra == 0) {
+            break;
+        }
+    }
+}
+
+// A hold's return as the one-hand analysis works it out, so that ties fall the same way.
+double exactReturn(const OutcomeCounts& counts, const Pays& pays, unsigned held) {
+    double paid = 0.0;
+    for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+        paid +=
+            counts[static_cast<std::size_t>(slot)] * pays.values[static_cast<std::size_t>(slot)];
+    }
+    return paid / pays.draws[kMaskSize[held]];
+}
+
+// Plays one deal class the best way: every hold's pay from the class sums by inclusion and
+// exclusion, then the final hands of the best hold.
+void playClass(const DrawTables& tables, const Pays& pays, const DealClass& deal, int dealSlot,
+               Totals& totals) {
+    SubsetClasses ids; // filled by subsetClasses
+    tables.subsetClasses(deal.cards, ids);
+    std::array<double, kHoldCount> paid; // every entry set below
+    for (unsigned mask = 0; mask < kAllHeld; ++mask) {
+        paid[mask] = pays.ofClass[kMaskSize[mask]][ids[mask]];
+    }
+    paid[kAllHeld] = pays.values[static_cast<std::size_t>(dealSlot)];
+    // After the pass over card b, paid[A] covers the hands that contain A and none of the
+    // discarded cards among those passed.
+    subtractWith<1>(paid);
+    subtractWith<2>(paid);
+    subtractWith<4>(paid);
+    subtractWith<8>(paid);
+    subtractWith<16>(paid);
+    // A first pick by the returns to within rounding; near ties are settled below.
+    std::array<double, kHoldCount> expected; // every entry set below
+    for (unsigned mask = 0; mask < kHoldCount; ++mask) {
+        expected[mask] = paid[mask] * pays.perDraw[kMaskSize[mask]];
+    }
+    unsigned best = 0;
+    double most = expected[0];
+    for (unsigned mask = 1; mask < kHoldCount; ++mask) {
+        if (expected[mask] > most) {
+            most = expected[mask];
             best = mask;
         }
     }
-    const auto held = static_cast<std::size_t>(std::popcount(static_cast<unsigned>(best)));
-    totals.paid[held] +=
-        static_cast<long double>(deal.weight) * paid[static_cast<std::size_t>(best)];
-    const OutcomeCounts& chosen = counts[static_cast<std::size_t>(best)];
+    OutcomeCounts counts; // filled by holdCounts
+    const double near = most - kNearTie * std::max(1.0, std::abs(most));
+    if (std::count_if(expected.begin(), expected.end(), [&](double e) { return e >= near; }) > 1) {
+        // Holds this close may be equal: settle them on exact counts, the lowest mask first.
+        double bestReturn = 0.0;
+        bool first = true;
+        for (unsigned mask = 0; mask < kHoldCount; ++mask) {
+            if (expected[mask] < near) {
+                continue;
+            }
+            OutcomeCounts candidate{};
+            holdCounts(tables, ids, dealSlot, mask, candidate);
+            const double value = exactReturn(candidate, pays, mask);
+            if (first || value > bestReturn) {
+                first = false;
+                bestReturn = value;
+                best = mask;
+                counts = candidate;
+            }
+        }
+    } else {
+        holdCounts(tables, ids, dealSlot, best, counts);
+    }
+    auto& hands = totals.hands[kMaskSize[best]];
     for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-        totals.hands[held][static_cast<std::size_t>(slot)] +=
+        hands[static_cast<std::size_t>(slot)] +=
             static_cast<std::uint64_t>(deal.weight) *
-            static_cast<std::uint64_t>(chosen[static_cast<std::size_t>(slot)]);
+            static_cast<std::uint64_t>(counts[static_cast<std::size_t>(slot)]);
     }
 }
 
@@ -61,12 +171,8 @@ void playClass(const DrawTables& tables, const OutcomeValues& values,
 std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& scale, int threads,
                                     std::stop_token stop) {
     const std::vector<DealClass>& classes = dealClasses(tables.deckSize());
-    const OutcomeValues values = outcomeValues(tables, scale);
-    std::array<double, kHeldCounts> draws{};
-    for (int held = 0; held < kHeldCounts; ++held) {
-        draws[static_cast<std::size_t>(held)] =
-            static_cast<double>(drawsFor(tables.deckSize(), held));
-    }
+    const std::span<const std::uint8_t> dealSlots = tables.dealOutcomes();
+    const Pays pays = paysFor(tables, scale);
 
     threads = std::max(threads, 1);
     std::vector<Totals> totals(static_cast<std::size_t>(threads));
@@ -75,11 +181,10 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
         if (stop.stop_requested()) {
             return;
         }
-        SubsetCounts counts{};
         const std::size_t first = static_cast<std::size_t>(chunk) * kChunk;
         const std::size_t last = std::min(classes.size(), first + kChunk);
         for (std::size_t i = first; i < last; ++i) {
-            playClass(tables, values, draws, classes[i], counts,
+            playClass(tables, pays, classes[i], dealSlots[i],
                       totals[static_cast<std::size_t>(worker)]);
         }
     });
@@ -91,36 +196,39 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
     odds.game = tables.game();
     odds.deals = binomial(tables.deckSize(), kHandSize);
     odds.dealClasses = classes.size();
+    odds.outcomeCount = tables.outcomeCount();
+    const OutcomeValues squares = outcomeSquares(tables, scale);
     const auto deals = static_cast<long double>(odds.deals);
-    long double expected = 0.0L;
     std::array<long double, kMaxOutcomes> probability{};
     for (int held = 0; held < kHeldCounts; ++held) {
-        long double paid = 0.0L;
-        std::array<std::uint64_t, kMaxOutcomes> hands{};
-        for (const Totals& part : totals) {
-            paid += part.paid[static_cast<std::size_t>(held)];
-            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                hands[static_cast<std::size_t>(slot)] +=
-                    part.hands[static_cast<std::size_t>(held)][static_cast<std::size_t>(slot)];
-            }
-        }
-        const long double perDeal = deals * draws[static_cast<std::size_t>(held)];
-        expected += paid / perDeal;
+        const long double perDeal = deals * pays.draws[static_cast<std::size_t>(held)];
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+            std::uint64_t hands = 0;
+            for (const Totals& part : totals) {
+                hands += part.hands[static_cast<std::size_t>(held)][static_cast<std::size_t>(slot)];
+            }
             probability[static_cast<std::size_t>(slot)] +=
-                static_cast<long double>(hands[static_cast<std::size_t>(slot)]) / perDeal;
+                static_cast<long double>(hands) / perDeal;
         }
     }
-    odds.expectedReturn = static_cast<double>(expected);
+    long double expected = 0.0L;
+    long double expectedSquare = 0.0L;
     for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
+        const auto at = static_cast<std::size_t>(slot);
         const Outcome outcome = tables.outcome(slot);
-        const auto p = static_cast<double>(probability[static_cast<std::size_t>(slot)]);
+        const auto p = static_cast<double>(probability[at]);
+        expected += probability[at] * pays.values[at];
+        expectedSquare += probability[at] * squares[at];
+        odds.outcomes[at] = outcome;
+        odds.outcomeProbability[at] = p;
         odds.codeProbability[outcome.code] += p;
         if (outcome.bonus) {
             odds.bonusProbability += p;
             odds.bonusReturn += p * scale.bonus;
         }
     }
+    odds.expectedReturn = static_cast<double>(expected);
+    odds.variance = static_cast<double>(expectedSquare - expected * expected);
     return odds;
 }
 

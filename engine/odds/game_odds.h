@@ -5,6 +5,7 @@
 
 // Standard library
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <stop_token>
@@ -26,6 +27,15 @@ struct GameOdds {
     double bonusReturn{0.0};                          // the part of the return the bonus pays
     std::uint64_t deals{0};
     std::size_t dealClasses{0};
+    // Final hands by outcome slot of the tables (a bonus outcome apart from its code).
+    std::array<double, kMaxOutcomes> outcomeProbability{};
+    std::array<Outcome, kMaxOutcomes> outcomes{};
+    int outcomeCount{0};
+    // The variance of the pay of one hand in bets squared; on Treasure Trips the chest's own
+    // spread is part of it.
+    double variance{0.0};
+
+    double standardDeviation() const { return std::sqrt(variance); }
 };
 
 // Plays every deal of the game's deck the best way under the pay scale; among holds with equal

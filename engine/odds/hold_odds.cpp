@@ -63,6 +63,7 @@ HandOdds analyzeHolds(const DrawTables& tables, std::span<const CardCode, kHandS
     SubsetCounts counts{};
     countHolds(tables, ascending, counts);
     const OutcomeValues values = outcomeValues(tables, scale);
+    const OutcomeValues squares = outcomeSquares(tables, scale);
 
     HandOdds odds;
     for (unsigned sortedMask = 0; sortedMask < kHoldCount; ++sortedMask) {
@@ -77,11 +78,16 @@ HandOdds analyzeHolds(const DrawTables& tables, std::span<const CardCode, kHandS
         hold.counts = counts[sortedMask];
         hold.draws = drawsFor(tables.deckSize(), std::popcount(sortedMask));
         double total = 0.0;
+        double totalSquares = 0.0;
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
             total += hold.counts[static_cast<std::size_t>(slot)] *
                      values[static_cast<std::size_t>(slot)];
+            totalSquares += hold.counts[static_cast<std::size_t>(slot)] *
+                            squares[static_cast<std::size_t>(slot)];
         }
         hold.expectedReturn = total / static_cast<double>(hold.draws);
+        hold.variance = std::max(0.0, totalSquares / static_cast<double>(hold.draws) -
+                                          hold.expectedReturn * hold.expectedReturn);
     }
     for (int mask = 1; mask < kHoldCount; ++mask) {
         if (odds.holds[static_cast<std::size_t>(mask)].expectedReturn >

@@ -24,6 +24,7 @@ struct HoldOdds {
     std::int64_t draws{0};      // how many different draws the hold allows
     OutcomeCounts counts{};     // final hands by outcome slot; they add up to draws
     double expectedReturn{0.0}; // in bets
+    double variance{0.0};       // of the hold's pay in bets squared, the chest's spread included
 };
 
 struct HandOdds {

@@ -40,4 +40,31 @@ OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale) {
     return values;
 }
 
+std::array<double, kChestFactors.size()> chestValues(const PayScale& scale) {
+    std::array<double, kChestFactors.size()> values{};
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        values[i] = static_cast<double>(kChestFactors[i]) * scale.bonus / kTreasureHuntMean;
+    }
+    return values;
+}
+
+double bonusVariance(const PayScale& scale) {
+    double squares = 0.0;
+    for (const double value : chestValues(scale)) {
+        squares += (value - scale.bonus) * (value - scale.bonus);
+    }
+    return squares / static_cast<double>(kChestFactors.size());
+}
+
+OutcomeValues outcomeSquares(const DrawTables& tables, const PayScale& scale) {
+    const OutcomeValues values = outcomeValues(tables, scale);
+    const double spread = bonusVariance(scale);
+    OutcomeValues squares{};
+    for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
+        const auto at = static_cast<std::size_t>(slot);
+        squares[at] = values[at] * values[at] + (tables.outcome(slot).bonus ? spread : 0.0);
+    }
+    return squares;
+}
+
 } // namespace marivale::odds

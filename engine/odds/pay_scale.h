@@ -42,4 +42,15 @@ std::optional<PayScale> payScaleFromMultipliers(GameId game, std::span<const dou
 // What each outcome slot of the tables pays, in bets.
 OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale);
 
+// The chest values of one chest choice under the scale, in bets: the chest factors scaled so
+// that their mean is the scale's bonus (the factors themselves at the game's own bonus).
+std::array<double, kChestFactors.size()> chestValues(const PayScale& scale);
+
+// The variance of one chest choice's bonus, in bets squared (74.25 at the game's own bonus).
+double bonusVariance(const PayScale& scale);
+
+// The mean of the square of what each outcome slot pays, in bets squared: the square of its pay,
+// plus on a bonus outcome the chest's own spread.
+OutcomeValues outcomeSquares(const DrawTables& tables, const PayScale& scale);
+
 } // namespace marivale::odds

@@ -1,7 +1,10 @@
-// marivale-odds GAME [M...]: plays every deal of a game the best way and prints how often each
-// final hand comes up and, on its last line, the return ("return: 99.5439%").
+// marivale-odds GAME [M...] [--bankroll B --hands N [--risk P]...]: plays every deal of a game
+// the best way and prints how often each final hand comes up, the return ("return: 99.5439%")
+// and the variance of one hand's pay in bets squared ("variance: 19.5147").
 // GAME is JB, DW, WJ or TT; the optional multipliers run from the highest code down (ten on
-// DW, nine elsewhere); without them the game's own pay table is used.
+// DW, nine elsewhere); without them the game's own pay table is used. With a bankroll of B bets
+// and a session of N hands it adds the risk of ruin, and the smallest bankroll for each target
+// risk P in percent (1 and 5 unless given).
 
 // Standard library
 #include <charconv>
@@ -19,17 +22,20 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/pay_scale.h"
+#include "engine/odds/risk_of_ruin.h"
 
 namespace {
 
 using namespace marivale;
 
 int usage() {
-    std::fputs("usage: marivale-odds GAME [M...]\n"
+    std::fputs("usage: marivale-odds GAME [M...] [--bankroll B --hands N [--risk P]...]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
-               "        the game's own pay table when left out\n",
+               "        the game's own pay table when left out\n"
+               "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
+               "  P     a target risk of ruin in percent (1 and 5 unless given)\n",
                stderr);
     return 2;
 }
@@ -54,6 +60,35 @@ std::string codeLabel(GameId game, int code) {
     return std::string(CodeName(game, static_cast<std::uint8_t>(code)));
 }
 
+struct Session {
+    std::optional<double> bankroll{};
+    std::optional<double> hands{};
+    std::vector<double> risks{};
+};
+
+// Prints the risk of ruin of the session and the bankrolls for the target risks.
+int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const Session& session) {
+    const int hands = static_cast<int>(*session.hands);
+    const auto payouts = odds::payoutDistribution(result, scale);
+    const auto curve = odds::ruinCurve(payouts, hands);
+    if (!curve) {
+        std::fprintf(stderr, "marivale-odds: at most %d hands\n", odds::kMaxRuinHands);
+        return 2;
+    }
+    if (curve->unit != 1.0 || !curve->exact) {
+        std::printf("bankrolls in steps of %g bets%s\n", curve->unit,
+                    curve->exact ? "" : " (pays rounded down to 1/64 bet)");
+    }
+    std::printf("risk of ruin: %.4f%%\n", 100.0 * curve->riskAt(*session.bankroll));
+    const std::vector<double> targets =
+        session.risks.empty() ? std::vector<double>{1.0, 5.0} : session.risks;
+    for (const double target : targets) {
+        std::printf("bankroll for %g%% risk: %g bets\n", target,
+                    curve->bankrollFor(target / 100.0));
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -65,15 +100,38 @@ int main(int argc, char** argv) {
         return usage();
     }
     odds::PayScale scale = odds::ownPayScale(*game);
-    if (argc > 2) {
-        std::vector<double> multipliers;
-        for (int i = 2; i < argc; ++i) {
-            const std::optional<double> value = parseNumber(argv[i]);
+    std::vector<double> multipliers;
+    Session session;
+    for (int i = 2; i < argc; ++i) {
+        const std::string_view arg = argv[i];
+        if (arg == "--bankroll" || arg == "--hands" || arg == "--risk") {
+            const std::optional<double> value =
+                i + 1 < argc ? parseNumber(argv[++i]) : std::nullopt;
             if (!value) {
                 return usage();
             }
-            multipliers.push_back(*value);
+            if (arg == "--bankroll") {
+                session.bankroll = value;
+            } else if (arg == "--hands") {
+                session.hands = value;
+            } else {
+                session.risks.push_back(*value);
+            }
+            continue;
         }
+        const std::optional<double> value = parseNumber(arg);
+        if (!value) {
+            return usage();
+        }
+        multipliers.push_back(*value);
+    }
+    const bool ruin = session.bankroll || session.hands || !session.risks.empty();
+    if (ruin &&
+        (!session.bankroll || !session.hands || *session.hands != std::floor(*session.hands) ||
+         *session.hands > odds::kMaxRuinHands)) {
+        return usage();
+    }
+    if (!multipliers.empty()) {
         const auto given = odds::payScaleFromMultipliers(*game, multipliers);
         if (!given) {
             std::fprintf(stderr, "marivale-odds: %s needs %d multipliers\n", argv[1],
@@ -102,5 +160,7 @@ int main(int argc, char** argv) {
                     100.0 * result->bonusReturn);
     }
     std::printf("return: %.4f%%\n", 100.0 * result->expectedReturn);
-    return 0;
+    std::printf("variance: %.4f\n", result->variance);
+    std::printf("standard deviation: %.4f\n", result->standardDeviation());
+    return ruin ? printRuin(*result, scale, session) : 0;
 }

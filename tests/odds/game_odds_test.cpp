@@ -1,6 +1,6 @@
-// The whole game under the best strategy: the published returns and hit frequencies of 9/6
-// Jacks or Better and full-pay Deuces Wild, the returns of the four games' own tables, and the
-// suit classes and suit symmetry that the whole-game count relies on.
+// The whole game under the best strategy: the published returns, variances and hit frequencies
+// of 9/6 Jacks or Better and full-pay Deuces Wild, the returns of the four games' own tables,
+// and the suit classes and suit symmetry that the whole-game count relies on.
 
 #include <gtest/gtest.h>
 
@@ -15,6 +15,7 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/pay_scale.h"
+#include "engine/odds/suit_classes.h"
 #include "odds_test_support.h"
 
 namespace marivale {
@@ -29,6 +30,7 @@ struct PublishedGame {
     GameId game;
     std::array<double, 10> multipliers; // from the highest code down
     double expectedReturn;
+    double variance;                    // rounded to four places
     std::array<double, 11> probability; // by code 0..10, rounded to six places
 };
 
@@ -37,11 +39,13 @@ const std::array<PublishedGame, 2> kPublished{{
     {GameId::JacksOrBetter,
      {800, 50, 25, 9, 6, 4, 3, 2, 1},
      0.995439,
+     19.5147,
      {0.545435, 0.214585, 0.129279, 0.074449, 0.011229, 0.011015, 0.011512, 0.002363, 0.000109,
       0.000025, 0}},
     {GameId::DeucesWild,
      {800, 200, 25, 15, 9, 5, 3, 2, 2, 1},
      1.007620,
+     25.8378,
      {0.546905, 0.284702, 0.055963, 0.016868, 0.021229, 0.064938, 0.004172, 0.003202, 0.001796,
       0.000204, 0.000022}},
 }};
@@ -57,6 +61,9 @@ TEST(GameOdds, PublishedTablesReturnAndHitFrequencies) {
         const auto result = odds::analyzeGame(odds::DrawTables::forGame(published.game), *scale);
         ASSERT_TRUE(result);
         EXPECT_NEAR(result->expectedReturn, published.expectedReturn, 5e-7);
+        EXPECT_NEAR(result->variance, published.variance, 5e-5);
+        EXPECT_NEAR(result->standardDeviation() * result->standardDeviation(), result->variance,
+                    1e-9);
         for (std::size_t code = 0; code < published.probability.size(); ++code) {
             EXPECT_NEAR(result->codeProbability[code], published.probability[code], 5e-7)
                 << "code " << code;
@@ -68,14 +75,15 @@ struct OwnTable {
     GameId game;
     double expectedReturn; // with the best strategy, to eight places
     double bonusReturn;    // the Treasure Hunt's share at one chest choice
+    double variance;       // to four places, the chest's spread included
 };
 
 // The returns of the four boards' own pay tables.
 constexpr std::array<OwnTable, 4> kOwnTables{{
-    {GameId::JacksOrBetter, 0.83787541, 0.0},
-    {GameId::DeucesWild, 0.88304134, 0.0},
-    {GameId::JokerWild, 0.81433903, 0.0},
-    {GameId::TreasureTrips, 1.03749729, 0.39253480},
+    {GameId::JacksOrBetter, 0.83787541, 0.0, 5.5047},
+    {GameId::DeucesWild, 0.88304134, 0.0, 12.7082},
+    {GameId::JokerWild, 0.81433903, 0.0, 10.0341},
+    {GameId::TreasureTrips, 1.03749729, 0.39253480, 20.0572},
 }};
 
 TEST(GameOdds, OwnTablesReturns) {
@@ -87,6 +95,7 @@ TEST(GameOdds, OwnTablesReturns) {
         ASSERT_TRUE(result);
         EXPECT_NEAR(result->expectedReturn, own.expectedReturn, 5e-9);
         EXPECT_NEAR(result->bonusReturn, own.bonusReturn, 5e-9);
+        EXPECT_NEAR(result->variance, own.variance, 5e-5);
         const double total =
             std::accumulate(result->codeProbability.begin(), result->codeProbability.end(), 0.0);
         EXPECT_NEAR(total, 1.0, 1e-12);
@@ -100,6 +109,42 @@ TEST(GameOdds, StoppedBeforeTheEndGivesNothing) {
     const auto& tables = odds::DrawTables::forGame(GameId::JacksOrBetter);
     EXPECT_FALSE(
         odds::analyzeGame(tables, odds::ownPayScale(GameId::JacksOrBetter), 2, stop.get_token()));
+}
+
+TEST(DrawTables, BuildStopsWhenAsked) {
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(odds::DrawTables(GameId::TreasureTrips, 2, stop.get_token()), odds::BuildStopped);
+}
+
+// Every set of 0..5 cards lies in exactly one class, and the index finds it there.
+TEST(SuitClasses, CoverEverySetOnce) {
+    for (const int deck : {52, 53}) {
+        for (int size = 0; size <= 5; ++size) {
+            SCOPED_TRACE(::testing::Message() << deck << " cards, sets of " << size);
+            const auto classes = odds::buildSuitClasses(deck, size);
+            std::uint64_t sets = 0;
+            for (const odds::SuitClass& rep : classes) {
+                sets += rep.weight;
+                EXPECT_EQ(rep.size, size);
+                EXPECT_TRUE(std::is_sorted(rep.set().begin(), rep.set().end()));
+            }
+            EXPECT_EQ(sets, odds::binomial(deck, size));
+            if (size == 5) {
+                continue;
+            }
+            const auto& tables = odds::subsetClassTables(deck);
+            const auto& index = tables.classOfSet[static_cast<std::size_t>(size)];
+            std::vector<std::uint64_t> members(classes.size());
+            for (const std::uint16_t id : index) {
+                ++members[id];
+            }
+            for (std::size_t id = 0; id < classes.size(); ++id) {
+                EXPECT_EQ(members[id], classes[id].weight);
+                EXPECT_EQ(index[odds::subsetIndex(classes[id].set())], id);
+            }
+        }
+    }
 }
 
 TEST(DealClasses, CoverEveryDealOnce) {

@@ -1,9 +1,11 @@
-// The 32 holds of a dealt hand: known returns worked out by hand, and every hold's final hands
-// checked against a brute-force draw of every replacement through the game's own AnalyzeHand.
+// The 32 holds of a dealt hand: known returns worked out by hand, and every hold's final hands,
+// return and variance checked against a brute-force draw of every replacement through the
+// game's own AnalyzeHand.
 
 #include <gtest/gtest.h>
 
 // Standard library
+#include <algorithm>
 #include <bit>
 #include <string_view>
 #include <vector>
@@ -150,6 +152,9 @@ void expectMatchesBruteForce(GameId game, const Deal& deal, int fewestHeld) {
         ASSERT_EQ(fast, brute) << "deal " << deal[0] << ' ' << deal[1] << ' ' << deal[2] << ' '
                                << deal[3] << ' ' << deal[4] << " held " << held;
         EXPECT_DOUBLE_EQ(result.holds[held].expectedReturn, payOf(brute, scale));
+        EXPECT_NEAR(result.holds[held].variance, testing::payStats(brute, scale).variance,
+                    1e-9 * std::max(1.0, result.holds[held].variance))
+            << "held " << held;
     }
 }
 

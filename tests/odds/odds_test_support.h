@@ -15,6 +15,7 @@
 #include "engine/game.h"
 #include "engine/hand_analysis.h"
 #include "engine/odds/outcome.h"
+#include "engine/odds/pay_scale.h"
 #include "engine/random_source.h"
 #include "state/game_state.h"
 
@@ -120,6 +121,34 @@ inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
         }
     }
     return counts;
+}
+
+// The mean and variance of a hold's pay in bets, from its final hands by code: a hand with the
+// bonus adds one chest, each chest factor equally likely.
+struct PayStats {
+    double mean{0.0};
+    double variance{0.0};
+};
+
+inline PayStats payStats(const CodeCounts& counts, const odds::PayScale& scale) {
+    double chestMean = 0.0;
+    double chestSquare = 0.0;
+    for (const int factor : odds::kChestFactors) {
+        chestMean += factor / static_cast<double>(odds::kChestFactors.size());
+        chestSquare += factor * factor / static_cast<double>(odds::kChestFactors.size());
+    }
+    double sum = 0.0;
+    double squares = 0.0;
+    for (std::size_t code = 0; code < counts.all.size(); ++code) {
+        const double pay = scale.multiplier[code];
+        const auto plain = static_cast<double>(counts.all[code] - counts.bonus[code]);
+        const auto bonus = static_cast<double>(counts.bonus[code]);
+        sum += plain * pay + bonus * (pay + chestMean);
+        squares += plain * pay * pay + bonus * (pay * pay + 2.0 * pay * chestMean + chestSquare);
+    }
+    const auto draws = static_cast<double>(counts.draws);
+    const double mean = sum / draws;
+    return {mean, squares / draws - mean * mean};
 }
 
 } // namespace marivale::testing

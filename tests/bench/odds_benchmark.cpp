@@ -15,6 +15,7 @@
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/parallel.h"
 #include "engine/odds/pay_scale.h"
+#include "engine/odds/risk_of_ruin.h"
 #include "engine/random_source.h"
 #include "process_timing.h"
 
@@ -74,6 +75,20 @@ void wholeGame(benchmark::State& bench, GameId game) {
     bench.counters["return%"] = 100.0 * expected;
 }
 
+// The risk of ruin of a 9/6 Jacks or Better session at one bankroll, from the game's pays.
+void riskOfRuin(benchmark::State& bench, double bankroll, int hands) {
+    const std::array<double, 9> nineSix{800, 50, 25, 9, 6, 4, 3, 2, 1};
+    const auto scale = *odds::payScaleFromMultipliers(GameId::JacksOrBetter, nineSix);
+    const auto game = odds::analyzeGame(odds::DrawTables::forGame(GameId::JacksOrBetter), scale);
+    const auto payouts = odds::payoutDistribution(*game, scale);
+    double risk = 0.0;
+    for (auto _ : bench) {
+        risk = odds::ruinCurve(payouts, hands)->riskAt(bankroll);
+        benchmark::DoNotOptimize(risk);
+    }
+    bench.counters["risk%"] = 100.0 * risk;
+}
+
 // The tool as the player runs it: a new process that builds the tables and plays the game.
 void toolProcess(benchmark::State& bench, std::vector<std::string> args) {
     for (auto _ : bench) {
@@ -87,6 +102,14 @@ void toolProcess(benchmark::State& bench, std::vector<std::string> args) {
 }
 
 void registerAll() {
+    benchmark::RegisterBenchmark("RiskOfRuin/JB96/bankroll:10000/hands:1600", riskOfRuin, 10000.0,
+                                 1600)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("RiskOfRuin/JB96/bankroll:160/hands:1600", riskOfRuin, 160.0, 1600)
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("RiskOfRuin/JB96/bankroll:1000/hands:10000", riskOfRuin, 1000.0,
+                                 10000)
+        ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("Tool/JB", toolProcess, std::vector<std::string>{"JB"})
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime()

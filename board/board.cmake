@@ -1,3 +1,4 @@
 add_library(marivale_board STATIC board_design.cpp game_board.cpp)
 target_link_libraries(marivale_board PUBLIC
-    marivale_board_logic marivale_media marivale_bonus marivale_help marivale_advisor Qt6::Widgets)
+    marivale_board_logic marivale_media marivale_bonus marivale_help marivale_advisor
+    marivale_stats_window Qt6::Widgets)

@@ -1,15 +1,19 @@
 #include "board/game_board.h"
 
 // Standard library
+#include <algorithm>
 #include <map>
+#include <memory>
 
 // Qt
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTimer>
 
 // Marivale
@@ -18,6 +22,8 @@
 #include "board/board_design.h"
 #include "board/card_pictures.h"
 #include "board/play_controller.h"
+#include "board/stats/session_stats.h"
+#include "board/stats/stats_window.h"
 #include "bonus/double_up_dialog.h"
 #include "bonus/treasure_hunt_dialog.h"
 #include "shell/help_dialog.h"
@@ -28,12 +34,17 @@ namespace marivale {
 // windows the controller asks for.
 class GameBoard::Impl final : public BoardView, public BonusGame {
 public:
-    Impl(GameBoard& window, const GameVariant& variant, GameState& state, RandomSource& random)
+    Impl(GameBoard& window, const GameVariant& variant, GameState& state, RandomSource& random,
+         SessionStats* stats)
         : window_(window), variant_(variant), state_(state), random_(random),
           widgets_(buildBoard(window, variant)), bell_(new Bell(&window)),
+          ownStats_(stats == nullptr ? std::make_unique<SessionStats>() : nullptr),
+          stats_(stats == nullptr ? *ownStats_ : *stats),
           controller_(variant, state, random, *this) {
         mapControls();
         connectClicks();
+        prepareKeys();
+        controller_.setObserver(&stats_);
         controller_.load();
     }
 
@@ -55,10 +66,14 @@ public:
     // Runs the board's unload once, however the window goes away.
     void unloadOnce();
     void toggleStrategy();
+    void toggleStatistics();
+    // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
+    bool playKey(const QKeyEvent& event);
 
 private:
     void mapControls();
     void connectClicks();
+    void prepareKeys();
     void checkPictures();
 
     GameBoard& window_;
@@ -68,10 +83,13 @@ private:
     BoardWidgets widgets_;
     CardPictures pictures_{};
     Bell* bell_{nullptr};
+    std::unique_ptr<SessionStats> ownStats_;
+    SessionStats& stats_;
     PlayController controller_;
     std::map<Control, QWidget*> controls_{};
     std::map<Control, std::string> texts_{};
     StrategyWindow* strategy_{nullptr};
+    StatsWindow* statsWindow_{nullptr};
     bool unloaded_{false};
     bool toldMissing_{false};
 };
@@ -117,6 +135,41 @@ void GameBoard::Impl::connectClicks() {
         QObject::connect(w.cards[p], &QPushButton::clicked, &window_,
                          [c, p] { c->cardClicked(p); });
     }
+}
+
+// Enter belongs to the board, never to the button that has the focus, so no button is a default
+// one; the cards and DrawDeal name their keys.
+void GameBoard::Impl::prepareKeys() {
+    for (QPushButton* button : window_.findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+    for (int p = 0; p < 5; ++p) {
+        widgets_.cards[p]->setToolTip(
+            QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));
+    }
+    widgets_.drawDeal->setToolTip(
+        QStringLiteral("Click or press Enter to deal, draw or take the score"));
+}
+
+bool GameBoard::Impl::playKey(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers != Qt::NoModifier) {
+        return false;
+    }
+    QPushButton* target = nullptr;
+    if (event.key() >= Qt::Key_1 && event.key() <= Qt::Key_5) {
+        target = widgets_.cards[static_cast<std::size_t>(event.key() - Qt::Key_1)];
+    } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        target = widgets_.drawDeal;
+    } else {
+        return false;
+    }
+    // A held key repeats; only the press itself plays.
+    if (!event.isAutoRepeat() && target->isEnabled() && target->isVisible()) {
+        target->click();
+    }
+    return true;
 }
 
 void GameBoard::Impl::setText(Control control, std::string_view text) {
@@ -243,6 +296,10 @@ void GameBoard::Impl::toggleStrategy() {
         if (state_.DrawPhase == 1) {
             strategy_->handDealt();
         }
+        if (auto* trainer = strategy_->findChild<QCheckBox*>(QStringLiteral("Trainer"))) {
+            QObject::connect(trainer, &QCheckBox::toggled, &window_,
+                             [this](bool on) { stats_.setTrainerMode(on); });
+        }
     }
     if (strategy_->isVisible()) {
         strategy_->hide();
@@ -253,11 +310,36 @@ void GameBoard::Impl::toggleStrategy() {
     strategy_->raise();
 }
 
+// F3 opens the statistics beside the board, or closes them.
+void GameBoard::Impl::toggleStatistics() {
+    if (statsWindow_ == nullptr) {
+        statsWindow_ = new StatsWindow(stats_, &window_);
+    }
+    if (statsWindow_->isVisible()) {
+        statsWindow_->hide();
+        return;
+    }
+    // Left of the board when there is room, else right of it, always on the board's screen.
+    const QRect board = window_.frameGeometry();
+    const QRect screen = window_.screen()->availableGeometry();
+    const int width = statsWindow_->frameGeometry().width();
+    int x = board.left() - width - 8;
+    if (x < screen.left()) {
+        x = std::min(board.right() + 8, screen.right() - width);
+    }
+    statsWindow_->move(std::max(x, screen.left()), std::max(board.top(), screen.top()));
+    statsWindow_->show();
+    statsWindow_->raise();
+}
+
 void GameBoard::Impl::unloadOnce() {
     if (unloaded_) {
         return;
     }
     unloaded_ = true;
+    // The statistics window goes first: it draws the model the unload reports to.
+    delete statsWindow_;
+    statsWindow_ = nullptr;
     if (strategy_ != nullptr) {
         strategy_->close();
     }
@@ -265,17 +347,25 @@ void GameBoard::Impl::unloadOnce() {
 }
 
 GameBoard::GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
-                     QWidget* parent)
-    : QDialog(parent), impl_(std::make_unique<Impl>(*this, variant, state, random)) {}
+                     QWidget* parent, SessionStats* stats)
+    : QDialog(parent), impl_(std::make_unique<Impl>(*this, variant, state, random, stats)) {}
 
 GameBoard::~GameBoard() {
     impl_->unloadOnce();
 }
 
-// F2 opens or closes the Strategy window; Escape never ends a visit by accident.
+// F2 opens or closes the Strategy window, F3 the statistics; 1 to 5 and Enter play; Escape
+// never ends a visit by accident.
 void GameBoard::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F2) {
         impl_->toggleStrategy();
+        return;
+    }
+    if (event->key() == Qt::Key_F3) {
+        impl_->toggleStatistics();
+        return;
+    }
+    if (impl_->playKey(*event)) {
         return;
     }
     if (event->key() == Qt::Key_Escape) {

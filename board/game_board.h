@@ -12,12 +12,15 @@
 
 namespace marivale {
 
+class SessionStats;
+
 class GameBoard : public QDialog {
     Q_OBJECT
 public:
     // Builds the board and runs its load: the visit's money, the pay table, the bell, the backs.
+    // The visit's hands are recorded in the run's statistics when given, else in the board's own.
     GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
-              QWidget* parent = nullptr);
+              QWidget* parent = nullptr, SessionStats* stats = nullptr);
     ~GameBoard() override;
 
     // Closing the board in any way unloads it: remaining credits are cashed out and the visit's

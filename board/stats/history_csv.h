@@ -1,0 +1,27 @@
+#pragma once
+
+// The hand history as text: cards as "As Kd Tc 2h Jk", the Double Up outcome in words, and the
+// whole history as comma-separated values with "." for decimals whatever the locale.
+
+// Standard library
+#include <string>
+#include <vector>
+
+// Marivale
+#include "board/stats/session_stats.h"
+
+namespace marivale {
+
+// A number with a fixed count of decimals and a "." point.
+std::string fixedText(double value, int decimals);
+
+// The cards of the positions in the mask, in board order; "none" when the mask is empty.
+std::string cardsText(const HandCards& cards, unsigned mask = 0x1f);
+
+// "took score", "no guess", "won x4", "lost"; empty when Double Up was not offered.
+std::string doubleUpText(const HandRecord& hand);
+
+// A header row, then one row per hand in the order played, each line ended by "\n".
+std::string historyCsv(const std::vector<HandRecord>& history);
+
+} // namespace marivale

@@ -1,0 +1,126 @@
+#include "board/stats/history_model.h"
+
+// Standard library
+#include <array>
+
+// Qt
+#include <QColor>
+
+// Marivale
+#include "board/advisor/card_text.h"
+#include "board/game_variant.h"
+#include "board/stats/history_csv.h"
+#include "engine/money_format.h"
+
+namespace marivale {
+namespace {
+
+constexpr std::string_view kMoneyPattern = "$#,##0.00";
+const QColor kMistakeInk(192, 0, 0);
+
+QString money(float dollars) {
+    return QString::fromStdString(FormatMoney(dollars, kMoneyPattern));
+}
+
+// The cards of the positions in the mask, with their suit symbols; "none" for an empty mask.
+QString cards(const HandCards& hand, unsigned mask = 0x1f) {
+    QStringList list;
+    for (std::size_t p = 0; p < hand.size(); ++p) {
+        if ((mask >> p) & 1u) {
+            list << cardText(hand[p]);
+        }
+    }
+    return list.isEmpty() ? QObject::tr("none") : list.join(' ');
+}
+
+} // namespace
+
+HistoryModel::HistoryModel(const SessionStats& stats, QObject* parent)
+    : QAbstractTableModel(parent), stats_(stats) {}
+
+int HistoryModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(stats_.history().size());
+}
+
+int HistoryModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : Count;
+}
+
+QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    static const std::array<QString, Count> kHeaders{
+        tr("#"),    tr("Game"), tr("Bet"),       tr("Dealt"),     tr("Held"), tr("Final"),
+        tr("Hand"), tr("Paid"), tr("Double Up"), tr("Best hold"), tr("Cost")};
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
+        section >= Count) {
+        return QAbstractTableModel::headerData(section, orientation, role);
+    }
+    return kHeaders[static_cast<std::size_t>(section)];
+}
+
+QVariant HistoryModel::data(const QModelIndex& index, int role) const {
+    const auto& history = stats_.history();
+    if (!index.isValid() || index.row() >= static_cast<int>(history.size())) {
+        return {};
+    }
+    const HandRecord& hand = history[history.size() - 1 - static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(hand, index.column());
+    case Qt::TextAlignmentRole:
+        return index.column() == Number || index.column() == Bet || index.column() == Paid ||
+                       index.column() == Cost
+                   ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                   : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    case Qt::ForegroundRole:
+        if (index.column() == Cost && hand.judgement && hand.judgement->mistake) {
+            return kMistakeInk;
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QString HistoryModel::text(const HandRecord& hand, int column) const {
+    switch (column) {
+    case Number:
+        return QString::number(hand.number);
+    case Game:
+        return QString::fromUtf8(variantFor(hand.game).title.data(),
+                                 static_cast<qsizetype>(variantFor(hand.game).title.size()));
+    case Bet:
+        return money(hand.bet);
+    case Dealt:
+        return cards(hand.dealt);
+    case Held:
+        return hand.played ? cards(hand.dealt, hand.holds) : QString();
+    case Final:
+        return hand.played ? cards(hand.finalCards) : QString();
+    case Result:
+        if (!hand.finished) {
+            return tr("abandoned");
+        }
+        return hand.name.empty() ? tr("nothing") : QString::fromStdString(hand.name);
+    case Paid:
+        return money(hand.paid);
+    case DoubleUp:
+        return QString::fromStdString(doubleUpText(hand));
+    case Best:
+        return hand.judgement ? cards(hand.dealt, hand.judgement->best)
+               : hand.played  ? QStringLiteral("\u2026")
+                              : QString();
+    case Cost:
+        return hand.judgement ? QStringLiteral("$") +
+                                    QString::fromStdString(fixedText(hand.judgement->cost, 4))
+                              : QString();
+    default:
+        return {};
+    }
+}
+
+void HistoryModel::refresh() {
+    beginResetModel();
+    endResetModel();
+}
+
+} // namespace marivale

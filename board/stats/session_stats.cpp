@@ -1,0 +1,267 @@
+#include "board/stats/session_stats.h"
+
+// Standard library
+#include <algorithm>
+
+// Marivale
+#include "engine/odds/hold_odds.h"
+
+namespace marivale {
+namespace {
+
+// A hand the odds can judge: the player chose a hold on five good cards.
+bool judgeable(const HandRecord& hand) {
+    return hand.played && odds::isValidDeal(deckSize(hand.game), hand.dealt);
+}
+
+} // namespace
+
+std::optional<double> Tally::actualReturn() const {
+    if (!(bet > 0.0f)) {
+        return std::nullopt;
+    }
+    return static_cast<double>(paid) / static_cast<double>(bet);
+}
+
+std::optional<double> Tally::averageBonusFactor() const {
+    if (bonuses == 0) {
+        return std::nullopt;
+    }
+    return bonusFactors / bonuses;
+}
+
+void Tally::add(const Tally& other) {
+    hands += other.hands;
+    drawn += other.drawn;
+    bet += other.bet;
+    paid += other.paid;
+    purchased += other.purchased;
+    cashedOut += other.cashedOut;
+    for (std::size_t code = 0; code < codes.size(); ++code) {
+        codes[code] += other.codes[code];
+    }
+    doubleUp.offered += other.doubleUp.offered;
+    doubleUp.played += other.doubleUp.played;
+    doubleUp.won += other.doubleUp.won;
+    doubleUp.highestFactor = std::max(doubleUp.highestFactor, other.doubleUp.highestFactor);
+    bonuses += other.bonuses;
+    bonusFactors += other.bonusFactors;
+}
+
+unsigned holdMask(const HandHolds& holds) {
+    unsigned mask = 0;
+    for (std::size_t p = 0; p < holds.size(); ++p) {
+        mask |= holds[p] ? 1u << p : 0u;
+    }
+    return mask;
+}
+
+std::optional<double> expectedReturn(const std::array<Tally, 4>& byGame,
+                                     const std::array<std::optional<double>, 4>& gameReturns) {
+    double weighted = 0.0;
+    double bets = 0.0;
+    for (std::size_t g = 0; g < byGame.size(); ++g) {
+        if (!(byGame[g].bet > 0.0f)) {
+            continue;
+        }
+        if (!gameReturns[g]) {
+            return std::nullopt;
+        }
+        weighted += *gameReturns[g] * byGame[g].bet;
+        bets += byGame[g].bet;
+    }
+    if (!(bets > 0.0)) {
+        return std::nullopt;
+    }
+    return weighted / bets;
+}
+
+void SessionStats::changed() const {
+    if (listener_) {
+        listener_();
+    }
+}
+
+HandRecord* SessionStats::openHand() {
+    return handOpen_ && !history_.empty() ? &history_.back() : nullptr;
+}
+
+Tally SessionStats::run() const {
+    Tally total;
+    for (const Tally& game : run_) {
+        total.add(game);
+    }
+    return total;
+}
+
+// A new visit starts its own tally and chart; the run's tallies and history carry on.
+void SessionStats::visitStarted(GameId game, float credits) {
+    ++visits_;
+    visitGame_ = game;
+    visit_ = Tally{};
+    startCredits_ = credits;
+    credits_.clear();
+    marks_.clear();
+    handOpen_ = false;
+    trainerMode_ = false;
+    changed();
+}
+
+void SessionStats::dealt(const HandCards& cards, float bet, float /*credits*/) {
+    HandRecord hand;
+    hand.number = static_cast<int>(history_.size()) + 1;
+    hand.visit = visits_;
+    hand.game = visitGame_;
+    hand.bet = bet;
+    hand.dealt = cards;
+    history_.push_back(hand);
+    handOpen_ = true;
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        ++tally->hands;
+        tally->bet += bet;
+    }
+    changed();
+}
+
+void SessionStats::held(const HandHolds& holds) {
+    if (HandRecord* hand = openHand()) {
+        hand->holds = holdMask(holds);
+        hand->played = true;
+        hand->trainer = trainerMode_;
+    }
+}
+
+void SessionStats::drawn(const HandCards& cards, std::uint8_t code, std::string_view name) {
+    HandRecord* hand = openHand();
+    if (hand == nullptr) {
+        return;
+    }
+    hand->finalCards = cards;
+    hand->code = code;
+    hand->name = std::string(name);
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        ++tally->drawn;
+        if (code < tally->codes.size()) {
+            ++tally->codes[code];
+        }
+    }
+    changed();
+}
+
+void SessionStats::doubleUpOffered() {
+    if (HandRecord* hand = openHand()) {
+        hand->doubleUp = DoubleUpResult::TookScore;
+        ++visit_.doubleUp.offered;
+        ++run_[static_cast<std::size_t>(visitGame_)].doubleUp.offered;
+    }
+}
+
+void SessionStats::doubled(int factor) {
+    HandRecord* hand = openHand();
+    if (hand == nullptr) {
+        return;
+    }
+    hand->doubleFactor = factor;
+    hand->doubleUp = factor > 1    ? DoubleUpResult::Won
+                     : factor == 1 ? DoubleUpResult::NoGuess
+                                   : DoubleUpResult::Lost;
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        ++tally->doubleUp.played;
+        tally->doubleUp.won += factor > 1 ? 1 : 0;
+        tally->doubleUp.highestFactor = std::max(tally->doubleUp.highestFactor, factor);
+    }
+}
+
+void SessionStats::bonus(float amount) {
+    HandRecord* hand = openHand();
+    if (hand == nullptr) {
+        return;
+    }
+    hand->bonus = amount;
+    const double factor = hand->bet > 0.0f ? static_cast<double>(amount) / hand->bet : 0.0;
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        ++tally->bonuses;
+        tally->bonusFactors += factor;
+    }
+}
+
+void SessionStats::settled(float paid, float credits) {
+    HandRecord* hand = openHand();
+    if (hand == nullptr) {
+        return;
+    }
+    hand->paid = paid;
+    hand->finished = true;
+    handOpen_ = false;
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        tally->paid += paid;
+    }
+    credits_.push_back(credits);
+    changed();
+}
+
+void SessionStats::purchased(float amount, float credits) {
+    marks_.push_back(
+        {CreditMarkKind::Purchase, static_cast<int>(credits_.size()), amount, credits});
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        tally->purchased += amount;
+    }
+    changed();
+}
+
+void SessionStats::cashedOut(float amount) {
+    marks_.push_back({CreditMarkKind::CashOut, static_cast<int>(credits_.size()), amount, 0.0f});
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        tally->cashedOut += amount;
+    }
+    changed();
+}
+
+// Closing the board abandons a hand in play: its bet stays counted, it paid nothing.
+void SessionStats::visitEnded(float cashedOut) {
+    handOpen_ = false;
+    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+        tally->cashedOut += cashedOut;
+    }
+    changed();
+}
+
+std::vector<HoldQuestion> SessionStats::unjudged() const {
+    std::vector<HoldQuestion> questions;
+    for (std::size_t i = 0; i < history_.size(); ++i) {
+        const HandRecord& hand = history_[i];
+        if (!hand.judgement && judgeable(hand)) {
+            questions.push_back({i, hand.game, hand.dealt, hand.holds, hand.bet});
+        }
+    }
+    return questions;
+}
+
+void SessionStats::setJudgement(std::size_t index, const HoldJudgement& judgement) {
+    if (index >= history_.size()) {
+        return;
+    }
+    history_[index].judgement = judgement;
+    changed();
+}
+
+TrainerSummary SessionStats::trainer(bool visitOnly) const {
+    TrainerSummary summary;
+    for (const HandRecord& hand : history_) {
+        if (!hand.trainer || !judgeable(hand) || (visitOnly && hand.visit != visits_)) {
+            continue;
+        }
+        if (!hand.judgement) {
+            ++summary.pending;
+            continue;
+        }
+        ++summary.judged;
+        if (hand.judgement->mistake) {
+            ++summary.mistakes;
+            summary.cost += hand.judgement->cost;
+        }
+    }
+    return summary;
+}
+
+} // namespace marivale

@@ -1,0 +1,170 @@
+#pragma once
+
+// The statistics of a run, recorded from the play controller's events: a tally of the current
+// visit and of every game over the whole run, the credits after each hand of the visit, and the
+// history of every hand. It only listens; nothing here changes the board or is saved. The cost
+// of each hold is filled in later, from the exact odds, by whoever can spare the time.
+
+// Standard library
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Marivale
+#include "board/hand_observer.h"
+#include "engine/odds/outcome.h"
+
+namespace marivale {
+
+// How the Double Up choice of a paying hand ended.
+enum class DoubleUpResult : std::uint8_t { NotOffered, TookScore, NoGuess, Won, Lost };
+
+// The best hold of a dealt hand, and what the hold the player made gave away.
+struct HoldJudgement {
+    unsigned best{0};         // mask over board positions
+    double bestReturn{0.0};   // in bets
+    double playedReturn{0.0}; // in bets
+    float cost{0.0f};         // dollars at the hand's bet; 0 when the hold was as good as the best
+    bool mistake{false};      // the hold returns less than the best
+};
+
+struct HandRecord {
+    int number{0}; // 1 for the run's first hand
+    int visit{0};  // 1 for the run's first visit
+    GameId game{GameId::JacksOrBetter};
+    float bet{0.0f};
+    HandCards dealt{};
+    unsigned holds{0};  // mask over board positions
+    bool played{false}; // the player drew or stood; false when the board closed first
+    HandCards finalCards{};
+    std::uint8_t code{0};
+    std::string name{}; // empty when nothing paid
+    float paid{0.0f};   // everything the hand paid, Double Up and bonus included
+    DoubleUpResult doubleUp{DoubleUpResult::NotOffered};
+    int doubleFactor{0};
+    float bonus{0.0f};
+    bool finished{false};
+    bool trainer{false}; // trainer mode was on when the player drew
+    std::optional<HoldJudgement> judgement{};
+};
+
+struct DoubleUpRecord {
+    int offered{0};
+    int played{0};
+    int won{0};
+    int highestFactor{0};
+};
+
+struct Tally {
+    int hands{0}; // deals: each took a bet
+    int drawn{0}; // hands that reached their final cards
+    float bet{0.0f};
+    float paid{0.0f};
+    float purchased{0.0f};
+    float cashedOut{0.0f};
+    std::array<int, odds::kCodeSlots> codes{}; // final hands by code
+    DoubleUpRecord doubleUp{};
+    int bonuses{0};
+    double bonusFactors{0.0}; // the Treasure Hunt factors added up
+
+    // Paid per dollar bet; nothing before the first bet.
+    std::optional<double> actualReturn() const;
+    std::optional<double> averageBonusFactor() const;
+    void add(const Tally& other);
+};
+
+struct TrainerSummary {
+    int judged{0};   // hands played in trainer mode whose cost is known
+    int pending{0};  // hands played in trainer mode still to be judged
+    int mistakes{0}; // holds worse than the best
+    float cost{0.0f};
+};
+
+enum class CreditMarkKind : std::uint8_t { Purchase, CashOut };
+
+// A purchase or a cash-out on the chart: after so many hands of the visit, the credits it left.
+struct CreditMark {
+    CreditMarkKind kind{CreditMarkKind::Purchase};
+    int afterHands{0};
+    float amount{0.0f};
+    float credits{0.0f};
+};
+
+// A hand whose hold is still to be judged, with all that the judging needs.
+struct HoldQuestion {
+    std::size_t index{0}; // into history()
+    GameId game{GameId::JacksOrBetter};
+    HandCards dealt{};
+    unsigned holds{0};
+    float bet{0.0f};
+};
+
+class SessionStats final : public HandObserver {
+public:
+    void visitStarted(GameId game, float credits) override;
+    void dealt(const HandCards& cards, float bet, float credits) override;
+    void held(const HandHolds& holds) override;
+    void drawn(const HandCards& cards, std::uint8_t code, std::string_view name) override;
+    void doubleUpOffered() override;
+    void doubled(int factor) override;
+    void bonus(float amount) override;
+    void settled(float paid, float credits) override;
+    void purchased(float amount, float credits) override;
+    void cashedOut(float amount) override;
+    void visitEnded(float cashedOut) override;
+
+    // Trainer mode of the Strategy window; each hand records it when the player draws.
+    void setTrainerMode(bool on) { trainerMode_ = on; }
+    // Called after every event and judgement, for a window that shows the model.
+    void setListener(std::function<void()> listener) { listener_ = std::move(listener); }
+
+    int visits() const { return visits_; }
+    GameId visitGame() const { return visitGame_; }
+    const Tally& visit() const { return visit_; }
+    const Tally& game(GameId game) const { return run_[static_cast<std::size_t>(game)]; }
+    const std::array<Tally, 4>& games() const { return run_; }
+    Tally run() const;
+
+    // The credits the visit started with, then after each of its hands, and its purchases and
+    // cash-outs.
+    float visitStartCredits() const { return startCredits_; }
+    const std::vector<float>& visitCredits() const { return credits_; }
+    const std::vector<CreditMark>& visitMarks() const { return marks_; }
+
+    // Every hand of the run, oldest first.
+    const std::vector<HandRecord>& history() const { return history_; }
+    std::vector<HoldQuestion> unjudged() const;
+    void setJudgement(std::size_t index, const HoldJudgement& judgement);
+    // The mistakes of trainer mode, in the visit or over the run.
+    TrainerSummary trainer(bool visitOnly) const;
+
+private:
+    HandRecord* openHand();
+    void changed() const;
+
+    int visits_{0};
+    GameId visitGame_{GameId::JacksOrBetter};
+    Tally visit_{};
+    std::array<Tally, 4> run_{};
+    float startCredits_{0.0f};
+    std::vector<float> credits_{};
+    std::vector<CreditMark> marks_{};
+    std::vector<HandRecord> history_{};
+    bool handOpen_{false};
+    bool trainerMode_{false};
+    std::function<void()> listener_{};
+};
+
+// Holds as a mask over board positions.
+unsigned holdMask(const HandHolds& holds);
+
+// The return the player could expect over a set of games, each weighted by what was bet on it;
+// nothing before a bet or while a game with bets has no known return.
+std::optional<double> expectedReturn(const std::array<Tally, 4>& byGame,
+                                     const std::array<std::optional<double>, 4>& gameReturns);
+
+} // namespace marivale

@@ -1,0 +1,179 @@
+#include "board/stats/stats_tables.h"
+
+// Standard library
+#include <array>
+
+// Qt
+#include <QHeaderView>
+#include <QTableWidget>
+
+// Marivale
+#include "engine/hand_analysis.h"
+#include "engine/hand_names.h"
+#include "engine/money_format.h"
+
+namespace marivale {
+namespace {
+
+constexpr std::string_view kMoneyPattern = "$#,##0.00";
+constexpr int kRowHeight = 20;
+const QString kNone = QStringLiteral("-");
+const QString kComputing = QStringLiteral("\u2026");
+
+QString money(float dollars) {
+    return QString::fromStdString(FormatMoney(dollars, kMoneyPattern));
+}
+
+QString percent(std::optional<double> ratio, const QString& otherwise = kNone) {
+    return ratio ? QString::number(100.0 * *ratio, 'f', 2) + QLatin1Char('%') : otherwise;
+}
+
+void setCell(QTableWidget& table, int row, int column, const QString& text,
+             Qt::Alignment alignment = Qt::AlignRight) {
+    auto* item = new QTableWidgetItem(text);
+    item->setTextAlignment(alignment | Qt::AlignVCenter);
+    item->setFlags(Qt::ItemIsEnabled);
+    table.setItem(row, column, item);
+}
+
+// A read-only table that shows all its rows without scrolling.
+QTableWidget* makeTable(int rows, const QStringList& headers, QWidget* parent) {
+    auto* table = new QTableWidget(rows, static_cast<int>(headers.size()), parent);
+    table->setHorizontalHeaderLabels(headers);
+    table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    return table;
+}
+
+// Fits the table's size to its rows and columns once their texts are in.
+void fitTable(QTableWidget& table) {
+    table.resizeColumnsToContents();
+    table.resizeRowsToContents();
+    int width = 2 * table.frameWidth() + table.verticalHeader()->width();
+    for (int column = 0; column < table.columnCount(); ++column) {
+        width += table.columnWidth(column);
+    }
+    int height = 2 * table.frameWidth() + table.horizontalHeader()->height();
+    for (int row = 0; row < table.rowCount(); ++row) {
+        height += table.rowHeight(row);
+    }
+    table.setFixedSize(width, height);
+}
+
+// Trainer mode's mistakes or their cost; a dash when no hand was played in trainer mode.
+QString trainerCell(const TrainerSummary& summary, bool cost) {
+    if (summary.judged == 0 && summary.pending == 0) {
+        return kNone;
+    }
+    if (summary.pending > 0) {
+        return kComputing;
+    }
+    return cost ? money(summary.cost) : QString::number(summary.mistakes);
+}
+
+} // namespace
+
+QTableWidget* makeSummaryTable(QWidget* parent) {
+    auto* table = makeTable(static_cast<int>(SummaryRow::Count),
+                            {QObject::tr("This visit"), QObject::tr("This run")}, parent);
+    table->setObjectName(QStringLiteral("Summary"));
+    table->setVerticalHeaderLabels({
+        QObject::tr("Hands played"),
+        QObject::tr("Total bet"),
+        QObject::tr("Total paid"),
+        QObject::tr("Return"),
+        QObject::tr("Exact return, best play"),
+        QObject::tr("Double Up offered"),
+        QObject::tr("Double Up played"),
+        QObject::tr("Double Up won"),
+        QObject::tr("Highest Double Up factor"),
+        QObject::tr("Treasure Hunt bonuses"),
+        QObject::tr("Average bonus factor"),
+        QObject::tr("Trainer mistakes"),
+        QObject::tr("Cost of the mistakes"),
+    });
+    return table;
+}
+
+void showSummaryTable(QTableWidget& table, const SessionStats& stats,
+                      std::optional<double> visitExact, std::optional<double> runExact) {
+    const Tally run = stats.run();
+    const std::array<const Tally*, 2> tallies{&stats.visit(), &run};
+    const std::array<std::optional<double>, 2> exact{visitExact, runExact};
+    const std::array<TrainerSummary, 2> trainer{stats.trainer(true), stats.trainer(false)};
+    for (int column = 0; column < 2; ++column) {
+        const auto c = static_cast<std::size_t>(column);
+        const Tally& t = *tallies[c];
+        const auto factor = t.averageBonusFactor();
+        const auto row = [&](SummaryRow r, const QString& text) {
+            setCell(table, static_cast<int>(r), column, text);
+        };
+        row(SummaryRow::Hands, QString::number(t.hands));
+        row(SummaryRow::Bet, money(t.bet));
+        row(SummaryRow::Paid, money(t.paid));
+        row(SummaryRow::Return, percent(t.actualReturn()));
+        row(SummaryRow::ExactReturn,
+            t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));
+        row(SummaryRow::DoubleUpOffered, QString::number(t.doubleUp.offered));
+        row(SummaryRow::DoubleUpPlayed, QString::number(t.doubleUp.played));
+        row(SummaryRow::DoubleUpWon, QString::number(t.doubleUp.won));
+        row(SummaryRow::DoubleUpHighest,
+            t.doubleUp.highestFactor > 1 ? QStringLiteral("\u00d7%1").arg(t.doubleUp.highestFactor)
+                                         : kNone);
+        row(SummaryRow::Bonuses, QString::number(t.bonuses));
+        row(SummaryRow::BonusFactor, factor ? QString::number(*factor, 'f', 1) : kNone);
+        row(SummaryRow::Mistakes, trainerCell(trainer[c], false));
+        row(SummaryRow::MistakeCost, trainerCell(trainer[c], true));
+    }
+    fitTable(table);
+}
+
+QTableWidget* makeFrequencyTable(QWidget* parent) {
+    auto* table = makeTable(0,
+                            {QObject::tr("Hand"), QObject::tr("Visit"), QObject::tr("Expected"),
+                             QObject::tr("Run"), QObject::tr("Expected")},
+                            parent);
+    table->setObjectName(QStringLiteral("HandFrequencies"));
+    table->verticalHeader()->hide();
+    return table;
+}
+
+void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
+                        const std::optional<odds::GameOdds>& gameOdds) {
+    const GameId game = stats.visitGame();
+    const bool bonusRow = game == GameId::TreasureTrips;
+    table.setRowCount(topCode(game) + (bonusRow ? 1 : 0));
+    const std::array<const Tally*, 2> tallies{&stats.visit(), &stats.game(game)};
+    const auto fill = [&](int row, const QString& name, const std::array<int, 2>& came,
+                          std::optional<double> probability) {
+        setCell(table, row, 0, name, Qt::AlignLeft);
+        for (std::size_t t = 0; t < tallies.size(); ++t) {
+            const int column = 1 + 2 * static_cast<int>(t);
+            setCell(table, row, column, QString::number(came[t]));
+            setCell(table, row, column + 1,
+                    probability ? QString::number(*probability * tallies[t]->drawn, 'f', 1)
+                                : kComputing);
+        }
+    };
+    int row = 0;
+    for (int code = topCode(game); code >= 1; --code, ++row) {
+        const auto slot = static_cast<std::size_t>(code);
+        const std::string_view name = CodeName(game, static_cast<std::uint8_t>(code));
+        fill(row, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
+             {tallies[0]->codes[slot], tallies[1]->codes[slot]},
+             gameOdds ? std::optional(gameOdds->codeProbability[slot]) : std::nullopt);
+    }
+    if (bonusRow) {
+        fill(row, QObject::tr("Treasure Hunt"), {tallies[0]->bonuses, tallies[1]->bonuses},
+             gameOdds ? std::optional(gameOdds->bonusProbability) : std::nullopt);
+    }
+    fitTable(table);
+}
+
+} // namespace marivale

@@ -1,0 +1,219 @@
+#include "board/stats/stats_window.h"
+
+// Standard library
+#include <utility>
+#include <vector>
+
+// Qt
+#include <QFile>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTableWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+// Marivale
+#include "board/advisor/game_odds_cache.h"
+#include "board/game_variant.h"
+#include "board/stats/credit_chart.h"
+#include "board/stats/history_csv.h"
+#include "board/stats/history_model.h"
+#include "board/stats/hold_judge.h"
+#include "board/stats/stats_tables.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/pay_scale.h"
+
+namespace marivale {
+
+StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
+    : QWidget(parent, Qt::Tool), stats_(stats) {
+    setObjectName(QStringLiteral("Statistics"));
+    setWindowTitle(tr("Session Statistics"));
+
+    auto* layout = new QVBoxLayout(this);
+    heading_ = new QLabel(this);
+    heading_->setObjectName(QStringLiteral("StatsHeading"));
+    layout->addWidget(heading_);
+
+    auto* tablesRow = new QHBoxLayout;
+    summary_ = makeSummaryTable(this);
+    frequencies_ = makeFrequencyTable(this);
+    tablesRow->addWidget(summary_, 0, Qt::AlignTop);
+    tablesRow->addWidget(frequencies_, 1, Qt::AlignTop);
+    layout->addLayout(tablesRow);
+
+    tabs_ = new QTabWidget(this);
+    tabs_->setObjectName(QStringLiteral("StatsTabs"));
+    chart_ = new CreditChart(tabs_);
+    tabs_->addTab(chart_, tr("&Credits"));
+
+    auto* historyPage = new QWidget(tabs_);
+    auto* historyLayout = new QVBoxLayout(historyPage);
+    historyModel_ = new HistoryModel(stats_, this);
+    history_ = new QTableView(historyPage);
+    history_->setObjectName(QStringLiteral("HandHistory"));
+    history_->setModel(historyModel_);
+    history_->verticalHeader()->hide();
+    history_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    history_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    history_->horizontalHeader()->setStretchLastSection(true);
+    historyLayout->addWidget(history_);
+    auto* exportRow = new QHBoxLayout;
+    exportRow->addStretch(1);
+    auto* exportButton = new QPushButton(tr("&Export CSV\u2026"), historyPage);
+    exportButton->setObjectName(QStringLiteral("ExportCsv"));
+    exportButton->setToolTip(tr("Write the whole hand history to a CSV file"));
+    exportRow->addWidget(exportButton);
+    historyLayout->addLayout(exportRow);
+    tabs_->addTab(historyPage, tr("&Hand History"));
+    layout->addWidget(tabs_, 1);
+
+    connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);
+    stats_.setListener([this] { scheduleRefresh(); });
+    refresh();
+    resize(880, 720);
+}
+
+StatsWindow::~StatsWindow() {
+    stats_.setListener({});
+    worker_.request_stop();
+    if (worker_.joinable()) {
+        worker_.join();
+    }
+}
+
+void StatsWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    refresh();
+}
+
+// Many events arrive in one hand; the window draws once after them.
+void StatsWindow::scheduleRefresh() {
+    if (refreshPending_ || !isVisible()) {
+        return;
+    }
+    refreshPending_ = true;
+    QTimer::singleShot(0, this, [this] {
+        refreshPending_ = false;
+        refresh();
+    });
+}
+
+void StatsWindow::refresh() {
+    const GameVariant& variant = variantFor(stats_.visitGame());
+    heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
+                          .arg(QString::fromUtf8(variant.title.data(),
+                                                 static_cast<qsizetype>(variant.title.size())))
+                          .arg(stats_.visits())
+                          .arg(stats_.history().size()));
+    std::array<std::optional<double>, 4> returns{};
+    for (const GameId game : kAllGames) {
+        returns[static_cast<std::size_t>(game)] = exactReturn(game);
+    }
+    showSummaryTable(*summary_, stats_, exactReturn(stats_.visitGame()),
+                     expectedReturn(stats_.games(), returns));
+    showFrequencyTable(*frequencies_, stats_, cachedGameOdds(stats_.visitGame()));
+    chart_->showVisit(stats_);
+    historyModel_->refresh();
+    if (isVisible()) {
+        startWork();
+    }
+}
+
+std::optional<double> StatsWindow::exactReturn(GameId game) const {
+    if (const auto found = cachedGameOdds(game)) {
+        return found->expectedReturn;
+    }
+    return std::nullopt;
+}
+
+// Judges the holds still waiting and works out the whole-game odds of every game played, off
+// the user-interface thread; the results come back as queued calls.
+void StatsWindow::startWork() {
+    if (working_) {
+        return;
+    }
+    std::vector<HoldQuestion> questions = stats_.unjudged();
+    std::vector<GameId> games;
+    for (const GameId game : kAllGames) {
+        const bool played = stats_.game(game).hands > 0 || game == stats_.visitGame();
+        if (played && !cachedGameOdds(game)) {
+            games.push_back(game);
+        }
+    }
+    if (questions.empty() && games.empty()) {
+        return;
+    }
+    working_ = true;
+    if (worker_.joinable()) {
+        worker_.join();
+    }
+    worker_ = std::jthread(
+        [this, questions = std::move(questions), games = std::move(games)](std::stop_token stop) {
+            std::vector<std::pair<std::size_t, HoldJudgement>> judged;
+            for (const HoldQuestion& question : questions) {
+                if (stop.stop_requested()) {
+                    return;
+                }
+                if (const auto judgement = judgeHold(question)) {
+                    judged.emplace_back(question.index, *judgement);
+                }
+            }
+            QMetaObject::invokeMethod(
+                this,
+                [this, judged = std::move(judged)] {
+                    for (const auto& [index, judgement] : judged) {
+                        stats_.setJudgement(index, judgement);
+                    }
+                },
+                Qt::QueuedConnection);
+            for (const GameId game : games) {
+                const auto result =
+                    odds::analyzeGame(odds::DrawTables::forGame(game), odds::ownPayScale(game),
+                                      odds::defaultThreadCount(), stop);
+                if (!result) {
+                    return;
+                }
+                storeGameOdds(*result);
+            }
+            QMetaObject::invokeMethod(
+                this, [this] { workDone(); }, Qt::QueuedConnection);
+        });
+}
+
+void StatsWindow::workDone() {
+    working_ = false;
+    refresh();
+}
+
+bool StatsWindow::exportTo(const QString& path) {
+    judgeAll(stats_);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        return false;
+    }
+    const std::string csv = historyCsv(stats_.history());
+    const auto size = static_cast<qint64>(csv.size());
+    return file.write(csv.data(), size) == size && file.flush();
+}
+
+void StatsWindow::exportClicked() {
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Export Hand History"),
+                                     QStringLiteral("hand-history.csv"), tr("CSV files (*.csv)"));
+    if (path.isEmpty()) {
+        return;
+    }
+    if (!exportTo(path)) {
+        QMessageBox::warning(this, tr("Export Hand History"),
+                             tr("The hand history could not be written to %1.").arg(path));
+    }
+}
+
+} // namespace marivale

@@ -1,0 +1,71 @@
+#pragma once
+
+// The session statistics window, a companion to a board: the visit's and the run's hands, bets
+// and payouts, the actual return beside the game's exact one, how often each paying hand came
+// against how often it should, Double Up and the Treasure Hunt, trainer mode's mistakes, a chart
+// of the visit's credits and the history of every hand with the cost of its hold. It only draws
+// the statistics model; closing it changes nothing. The odds it needs are worked out on a
+// background thread, so the board never waits for them.
+
+// Standard library
+#include <optional>
+#include <thread>
+
+// Qt
+#include <QWidget>
+
+// Marivale
+#include "board/stats/session_stats.h"
+
+class QLabel;
+class QTableView;
+class QTableWidget;
+class QTabWidget;
+
+namespace marivale {
+
+class CreditChart;
+class HistoryModel;
+
+class StatsWindow : public QWidget {
+    Q_OBJECT
+public:
+    explicit StatsWindow(SessionStats& stats, QWidget* parent = nullptr);
+    ~StatsWindow() override;
+
+    // Writes the whole history as CSV, judging any hold still waiting first; false when the
+    // file cannot be written.
+    bool exportTo(const QString& path);
+    // True while holds or whole-game odds are being worked out.
+    bool working() const { return working_; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void scheduleRefresh();
+    void refresh();
+    void showSummary();
+    void showFrequencies();
+    void startWork();
+    void workDone();
+    void exportClicked();
+    std::optional<double> exactReturn(GameId game) const;
+
+    SessionStats& stats_;
+    bool refreshPending_{false};
+    bool working_{false};
+
+    QLabel* heading_{nullptr};
+    QTableWidget* summary_{nullptr};
+    QTableWidget* frequencies_{nullptr};
+    QTabWidget* tabs_{nullptr};
+    CreditChart* chart_{nullptr};
+    HistoryModel* historyModel_{nullptr};
+    QTableView* history_{nullptr};
+
+    // Last member: stopped and joined first when the window goes.
+    std::jthread worker_{};
+};
+
+} // namespace marivale

@@ -1,0 +1,207 @@
+// The statistics window on real boards: F3 opens it beside the board and it changes nothing,
+// its figures follow the hands, the chart has a point per hand with the purchases and cash-outs
+// marked, the history shows the newest hand first with the cost of its hold, the export reads
+// back with "." decimals under a comma locale, and the run's figures outlive a board.
+
+#include <QtTest>
+
+// Qt
+#include <QAbstractItemModel>
+#include <QChart>
+#include <QChartView>
+#include <QFile>
+#include <QScatterSeries>
+#include <QTableView>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QXYSeries>
+
+// Marivale
+#include "board/stats/history_model.h"
+#include "board/stats/session_stats.h"
+#include "board/stats/stats_tables.h"
+#include "board/stats/stats_window.h"
+#include "board_fixture.h"
+
+using namespace marivale;
+using marivale::testing::BoardFixture;
+
+namespace {
+
+// Odds for a whole game take a moment on a busy machine.
+constexpr int kOddsTimeoutMs = 60000;
+
+StatsWindow* openStats(QWidget& board) {
+    QTest::keyClick(&board, Qt::Key_F3);
+    return board.findChild<StatsWindow*>(QStringLiteral("Statistics"));
+}
+
+QString summary(const StatsWindow& window, SummaryRow row, int column) {
+    const auto* table = window.findChild<QTableWidget*>(QStringLiteral("Summary"));
+    const QTableWidgetItem* item = table->item(static_cast<int>(row), column);
+    return item ? item->text() : QStringLiteral("<empty>");
+}
+
+QXYSeries* series(const StatsWindow& window, const QString& name) {
+    auto* view = window.findChild<QChartView*>(QStringLiteral("CreditChart"));
+    for (QAbstractSeries* s : view->chart()->series()) {
+        if (s->objectName() == name) {
+            return qobject_cast<QXYSeries*>(s);
+        }
+    }
+    return nullptr;
+}
+
+// Deals, holds the positions in the mask and draws, or stands when all five are held.
+void playHand(BoardFixture& f, const char* dealt, unsigned holds = 0x1f) {
+    f.script(dealt);
+    f.click("DrawDeal");
+    if (holds == 0x1f) {
+        f.click("Stand");
+        return;
+    }
+    for (int p = 0; p < 5; ++p) {
+        if ((holds >> p) & 1u) {
+            f.click(QStringLiteral("Card%1").arg(p));
+        }
+    }
+    f.script("2d 2d 2d 2d 3d");
+    f.click("DrawDeal");
+}
+
+} // namespace
+
+class StatsWindowTest : public QObject {
+    Q_OBJECT
+private slots:
+    void f3OpensAWindowThatChangesNothing();
+    void chartHasAPointPerHand();
+    void historyNewestFirstAndExportReadsBack();
+    void runFiguresOutliveABoard();
+};
+
+void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
+    BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
+    f.buy(4);
+    playHand(f, "2h 5h 9h Jh Kd", 0b01111); // draws 2d: no flush
+    const GameState before = f.state;
+    StatsWindow* window = openStats(*f.board);
+    QVERIFY(window != nullptr);
+    QVERIFY(window->isVisible());
+    QVERIFY(!window->isModal());
+    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
+    QCOMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("1"));
+    QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$1.00"));
+    QCOMPARE(summary(*window, SummaryRow::Return, kVisitColumn), QStringLiteral("0.00%"));
+    QCOMPARE(summary(*window, SummaryRow::ExactReturn, kVisitColumn), QStringLiteral("83.79%"));
+    QCOMPARE(summary(*window, SummaryRow::Mistakes, kVisitColumn), QStringLiteral("-"));
+
+    // A hand played with the window open shows at once.
+    playHand(f, "Jc Jd 9h 4s 2d");
+    QTRY_COMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("2"));
+    QCOMPARE(summary(*window, SummaryRow::Paid, kVisitColumn), QStringLiteral("$1.00"));
+    auto* frequencies = window->findChild<QTableWidget*>(QStringLiteral("HandFrequencies"));
+    const int pairRow = frequencies->rowCount() - 1;
+    QCOMPARE(frequencies->item(pairRow, 1)->text(), QStringLiteral("1"));
+
+    const float credits = f.state.Credits;
+    window->close();
+    QVERIFY(f.board->isVisible());
+    QCOMPARE(f.state.Credits, credits);
+    QCOMPARE(f.state.TotalPurchased, before.TotalPurchased);
+    QCOMPARE(f.state.DrawPhase, 0);
+    QCOMPARE(openStats(*f.board), window);
+    QVERIFY(window->isVisible());
+    openStats(*f.board);
+    QVERIFY(!window->isVisible());
+}
+
+void StatsWindowTest::chartHasAPointPerHand() {
+    BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
+    f.buy(4); // $20 before the first hand
+    for (int hand = 0; hand < 3; ++hand) {
+        playHand(f, "2c 5d 9h Js Kd");
+    }
+    f.buy(6);                      // $5 after the third
+    playHand(f, "2h 5h 9h Jh Kh"); // a flush pays $5
+    playHand(f, "2c 5d 9h Js Kd");
+    f.click("Stand"); // cashes out $25
+    StatsWindow* window = openStats(*f.board);
+    QXYSeries* credits = series(*window, "Credits");
+    QXYSeries* purchases = series(*window, "Purchases");
+    QXYSeries* cashOuts = series(*window, "CashOuts");
+    QVERIFY(credits && purchases && cashOuts);
+    QCOMPARE(credits->points(), (QList<QPointF>{{1, 19}, {2, 18}, {3, 17}, {4, 26}, {5, 25}}));
+    QCOMPARE(purchases->points(), (QList<QPointF>{{0, 20}, {3, 22}}));
+    QCOMPARE(cashOuts->points(), (QList<QPointF>{{5, 0}}));
+    QVERIFY(qobject_cast<QScatterSeries*>(purchases) != nullptr);
+}
+
+void StatsWindowTest::historyNewestFirstAndExportReadsBack() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    BoardFixture f(GameId::JacksOrBetter);
+    f.buy(4);
+    playHand(f, "As Ks Qs Js 2c"); // stands: gives up four to the royal
+    playHand(f, "Ac Ad Ah As 7c", 0b01111);
+    StatsWindow* window = openStats(*f.board);
+    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
+    auto* view = window->findChild<QTableView*>(QStringLiteral("HandHistory"));
+    const QAbstractItemModel* model = view->model();
+    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(model->index(0, HistoryModel::Number).data().toString(), QStringLiteral("2"));
+    QCOMPARE(model->index(0, HistoryModel::Result).data().toString(),
+             QStringLiteral("Four of a Kind"));
+    QCOMPARE(model->index(0, HistoryModel::Cost).data().toString(), QStringLiteral("$0.0000"));
+    QCOMPARE(model->index(1, HistoryModel::Cost).data().toString(), QStringLiteral("$1.6702"));
+    QCOMPARE(model->index(1, HistoryModel::Held).data().toString(),
+             model->index(1, HistoryModel::Dealt).data().toString());
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("history.csv"));
+    QVERIFY(window->exportTo(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList rows = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(rows.size(), 3);
+    QVERIFY(rows[0].startsWith(QStringLiteral("Hand,Visit,Game,Bet,Dealt,Held,Final,")));
+    QCOMPARE(rows[1], QStringLiteral("1,1,Jacks or Better,0.25,As Ks Qs Js 2c,As Ks Qs Js 2c,"
+                                     "As Ks Qs Js 2c,,0.00,,0.00,As Ks Qs Js,1.6702"));
+    QVERIFY(rows[2].startsWith(QStringLiteral("2,1,Jacks or Better,0.25,Ac Ad Ah As 7c,")));
+    QVERIFY(rows[2].endsWith(QStringLiteral(",6.25,,0.00,Ac Ad Ah As,0.0000")));
+    QVERIFY(!window->exportTo(dir.filePath(QStringLiteral("missing/history.csv"))));
+    QLocale::setDefault(QLocale::c());
+}
+
+// A run-wide model handed to each board keeps counting across visits.
+void StatsWindowTest::runFiguresOutliveABoard() {
+    SessionStats stats;
+    GameState state{};
+    state.PlayUnit = 1.0f;
+    ScriptedRandomSource random;
+    const auto click = [](QWidget& board, const char* name) {
+        board.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
+    };
+    {
+        GameBoard jacks(variantFor(GameId::JacksOrBetter), state, random, nullptr, &stats);
+        jacks.show();
+        click(jacks, "Purchase");
+        for (int hand = 0; hand < 2; ++hand) {
+            click(jacks, "DrawDeal");
+            click(jacks, "Stand");
+        }
+        openStats(jacks);
+    }
+    GameBoard deuces(variantFor(GameId::DeucesWild), state, random, nullptr, &stats);
+    deuces.show();
+    click(deuces, "Purchase");
+    click(deuces, "DrawDeal");
+    click(deuces, "Stand");
+    StatsWindow* window = openStats(deuces);
+    QCOMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("1"));
+    QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
+    QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
+    QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
+}
+
+QTEST_MAIN(StatsWindowTest)
+#include "stats_window_test.moc"

@@ -1,7 +1,17 @@
 // Money patterns as every display uses them.
 
+// Standard library
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <random>
+#include <string>
+
+// GoogleTest
 #include <gtest/gtest.h>
 
+// Marivale
 #include "engine/money_format.h"
 
 namespace marivale {
@@ -44,6 +54,53 @@ TEST(FormatMoney, EveryPatternTheGameUses) {
     };
     for (const MoneyCase& c : cases) {
         EXPECT_EQ(FormatMoney(c.value, c.pattern), c.text) << c.value << " " << c.pattern;
+    }
+}
+
+// Amounts far beyond a 64-bit integer print every digit of the float's exact value, with their
+// sign, whatever the pattern's number of "#".
+TEST(FormatMoney, HugeAmountsKeepEveryDigitAndTheirSign) {
+    const MoneyCase cases[] = {
+        {2e20f, "$#,###,##0.00", "$200,000,004,008,175,468,544.00"},
+        {-2e20f, "$#,###,##0.00", "-$200,000,004,008,175,468,544.00"},
+        {2e20f, "$##0.00", "$200000004008175468544.00"},
+        {-2e20f, "##0.00", "-200000004008175468544.00"},
+        {1.85e17f, "$#,##0.00", "$184,999,995,378,761,728.00"},
+        {-1.85e17f, "#,###,##0.00", "-184,999,995,378,761,728.00"},
+        {1.8446744e19f, "$##,##0.00", "$18,446,744,073,709,551,616.00"},
+        {16777217.0f, "$##0.00", "$16777216.00"},
+        {3.4028235e38f, "$#,###,##0.00", "$340,282,346,638,528,859,811,704,183,484,516,925,440.00"},
+        {-3.4028235e38f, "$##0.00", "-$340282346638528859811704183484516925440.00"},
+        {123456.789f, "$#,###,##0.00", "$123,456.79"},
+        {-99999.99f, "$##,##0.00", "-$99,999.99"},
+        {1e-45f, "$#,###,##0.00", "$0.00"},
+        {-1e-45f, "$##0.00", "$0.00"},
+    };
+    for (const MoneyCase& c : cases) {
+        EXPECT_EQ(FormatMoney(c.value, c.pattern), c.text) << c.value << " " << c.pattern;
+    }
+}
+
+// Floats of every size, drawn from their bit patterns, against the C library's exact decimal
+// expansion; exact ties are left out, since the game rounds them away from zero.
+TEST(FormatMoney, AgreesWithTheExactExpansionAcrossAllFloats) {
+    std::mt19937 random(20261123);
+    for (int round = 0; round < 200000; ++round) {
+        const std::uint32_t bits = static_cast<std::uint32_t>(random());
+        float value = 0.0f;
+        std::memcpy(&value, &bits, sizeof value);
+        if (!std::isfinite(value)) {
+            continue;
+        }
+        const double cents = std::fabs(static_cast<double>(value)) * 100.0;
+        if (cents - std::floor(cents) == 0.5) {
+            continue;
+        }
+        char expected[128];
+        std::snprintf(expected, sizeof expected, "%.2f", std::fabs(static_cast<double>(value)));
+        const bool negative = value < 0.0f && std::string(expected) != "0.00";
+        ASSERT_EQ(FormatMoney(value, "$##0.00"), (negative ? "-$" : "$") + std::string(expected))
+            << bits;
     }
 }
 

@@ -1,8 +1,10 @@
 #include "board/advisor/game_figures.h"
 
 // Qt
+#include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -15,8 +17,8 @@ namespace {
 
 constexpr int kColumns = 4;
 // Column widths in pixels: hand, pays, frequency, one in.
-constexpr std::array<int, kColumns> kColumnWidth{176, 84, 84, 84};
-constexpr int kRowHeight = 18;
+constexpr std::array<int, kColumns> kColumnWidth{176, 92, 84, 84};
+constexpr int kRowHeight = 22;
 
 // The name of a paying code as the figures list it.
 QString handLabel(GameId game, int code) {
@@ -38,13 +40,10 @@ QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
     return item;
 }
 
-void setRow(QTableWidget& table, int row, const QString& hand, const QString& pays,
-            double probability) {
-    table.setItem(row, 0, makeItem(hand, Qt::AlignLeft));
-    table.setItem(row, 1, makeItem(pays, Qt::AlignRight));
-    table.setItem(row, 2,
+void setFrequency(QTableWidget& table, int row, double probability) {
+    table.setItem(row, GameFigures::kFrequencyColumn,
                   makeItem(QString::number(100.0 * probability, 'f', 4) + '%', Qt::AlignRight));
-    table.setItem(row, 3,
+    table.setItem(row, GameFigures::kFrequencyColumn + 1,
                   makeItem(probability > 0.0 ? QString::number(1.0 / probability, 'f', 1)
                                              : QStringLiteral("-"),
                            Qt::AlignRight));
@@ -58,6 +57,9 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     returnLabel_ = new QLabel(this);
     returnLabel_->setObjectName(QStringLiteral("GameReturn"));
     layout->addWidget(returnLabel_);
+    varianceLabel_ = new QLabel(this);
+    varianceLabel_->setObjectName(QStringLiteral("GameVariance"));
+    layout->addWidget(varianceLabel_);
 
     const bool bonus = game == GameId::TreasureTrips;
     const int rows = topCode(game) + (bonus ? 1 : 0);
@@ -73,34 +75,72 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     }
     hits_->setSelectionMode(QAbstractItemView::NoSelection);
     hits_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    hits_->setFocusPolicy(Qt::NoFocus);
     hits_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hits_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hits_->setFixedHeight(hits_->horizontalHeader()->sizeHint().height() + rows * kRowHeight +
                           2 * hits_->frameWidth());
+    int row = 0;
+    for (int code = topCode(game); code >= 1; --code, ++row) {
+        hits_->setItem(row, 0, makeItem(handLabel(game, code), Qt::AlignLeft));
+        auto* pay = new QDoubleSpinBox(hits_);
+        pay->setObjectName(QStringLiteral("Pay%1").arg(code));
+        pay->setRange(0.0, kMostPay);
+        pay->setDecimals(2);
+        pay->setPrefix(QStringLiteral("\u00d7"));
+        pay->setKeyboardTracking(false);
+        pay->setFrame(false);
+        pay->setAlignment(Qt::AlignRight);
+        hits_->setCellWidget(row, kPaysColumn, pay);
+        pays_.push_back(pay);
+        connect(pay, &QDoubleSpinBox::valueChanged, this,
+                [this, code](double value) { emit multiplierEdited(code, value); });
+    }
+    if (bonus) {
+        hits_->setItem(row, 0, makeItem(tr("Treasure Hunt, one chest"), Qt::AlignLeft));
+    }
     layout->addWidget(hits_);
     showComputing();
 }
 
+void GameFigures::showScale(const odds::PayScale& scale) {
+    int row = 0;
+    for (int code = topCode(game_); code >= 1; --code, ++row) {
+        QDoubleSpinBox* pay = pays_[static_cast<std::size_t>(row)];
+        const QSignalBlocker quiet(pay);
+        pay->setValue(scale.multiplier[static_cast<std::size_t>(code)]);
+    }
+    if (game_ == GameId::TreasureTrips) {
+        hits_->setItem(
+            row, kPaysColumn,
+            makeItem(QStringLiteral("+") + QString::number(scale.bonus) + QStringLiteral(" avg"),
+                     Qt::AlignRight));
+    }
+}
+
 void GameFigures::showComputing() {
     returnLabel_->setText(tr("Return with the best play: computing\u2026"));
-    hits_->clearContents();
+    varianceLabel_->clear();
+    for (int row = 0; row < hits_->rowCount(); ++row) {
+        for (int column = kFrequencyColumn; column < kColumns; ++column) {
+            hits_->setItem(row, column, nullptr);
+        }
+    }
 }
 
 void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& scale) {
     returnLabel_->setText(tr("Return with the best play: <b>%1%</b>")
                               .arg(QString::number(100.0 * result.expectedReturn, 'f', 4)));
+    varianceLabel_->setText(tr("Variance of a hand: <b>%1</b> bets\u00b2 &nbsp; standard "
+                               "deviation: <b>%2</b> bets")
+                                .arg(QString::number(result.variance, 'f', 4),
+                                     QString::number(result.standardDeviation(), 'f', 4)));
+    showScale(scale);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
-        setRow(*hits_, row, handLabel(game_, code),
-               QStringLiteral("\u00d7") +
-                   QString::number(scale.multiplier[static_cast<std::size_t>(code)]),
-               result.codeProbability[static_cast<std::size_t>(code)]);
+        setFrequency(*hits_, row, result.codeProbability[static_cast<std::size_t>(code)]);
     }
     if (game_ == GameId::TreasureTrips) {
-        setRow(*hits_, row, tr("Treasure Hunt, one chest"),
-               QStringLiteral("+") + QString::number(scale.bonus) + QStringLiteral(" avg"),
-               result.bonusProbability);
+        setFrequency(*hits_, row, result.bonusProbability);
     }
 }
 

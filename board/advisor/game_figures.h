@@ -1,7 +1,11 @@
 #pragma once
 
-// The game's figures at its pay table under the best play: the return, and how often each
-// paying hand (and on Treasure Trips the Treasure Hunt) comes up.
+// The game's figures at a pay table under the best play: the return, the variance and standard
+// deviation of a hand's pay, and how often each paying hand (and on Treasure Trips the Treasure
+// Hunt) comes up. Each paying hand's multiplier is a spin box the player may change.
+
+// Standard library
+#include <vector>
 
 // Qt
 #include <QWidget>
@@ -11,6 +15,7 @@
 #include "engine/odds/game_odds.h"
 #include "engine/odds/pay_scale.h"
 
+class QDoubleSpinBox;
 class QLabel;
 class QTableWidget;
 
@@ -19,17 +24,28 @@ namespace marivale {
 class GameFigures : public QWidget {
     Q_OBJECT
 public:
+    static constexpr int kPaysColumn = 1;
     static constexpr int kFrequencyColumn = 2;
+    // The largest multiplier a spin box takes.
+    static constexpr double kMostPay = 100'000.0;
 
     GameFigures(GameId game, QWidget* parent = nullptr);
 
+    // The multipliers on show, without telling anyone.
+    void showScale(const odds::PayScale& scale);
     void showComputing();
     void showOdds(const odds::GameOdds& result, const odds::PayScale& scale);
+
+signals:
+    // The player changed the multiplier of a code.
+    void multiplierEdited(int code, double multiplier);
 
 private:
     GameId game_;
     QLabel* returnLabel_{nullptr};
+    QLabel* varianceLabel_{nullptr};
     QTableWidget* hits_{nullptr};
+    std::vector<QDoubleSpinBox*> pays_{}; // by row, the highest code first
 };
 
 } // namespace marivale

@@ -8,13 +8,16 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 // Marivale
+#include "board/advisor/bankroll_panel.h"
 #include "board/advisor/card_text.h"
 #include "board/advisor/game_figures.h"
 #include "board/advisor/game_odds_cache.h"
 #include "board/game_variant.h"
+#include "engine/hand_analysis.h"
 #include "engine/money_format.h"
 #include "engine/odds/draw_tables.h"
 
@@ -50,14 +53,46 @@ QString heldHtml(const DealtCards& dealt, unsigned held) {
     return cards.isEmpty() ? QObject::tr("nothing") : cards.join(' ');
 }
 
+bool sameScale(const odds::PayScale& a, const odds::PayScale& b) {
+    return a.multiplier == b.multiplier && a.bonus == b.bonus;
+}
+
 } // namespace
 
 StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* parent)
-    : QWidget(parent, Qt::Tool), game_(game), state_(state), scale_(odds::ownPayScale(game)) {
+    : QWidget(parent, Qt::Tool), game_(game), state_(state), boardScale_(odds::ownPayScale(game)),
+      scale_(boardScale_) {
     setObjectName(QStringLiteral("Strategy"));
     setWindowTitle(QStringLiteral("Strategy"));
+    buildLayout();
 
-    auto* layout = new QVBoxLayout(this);
+    connect(trainer_, &QCheckBox::toggled, this, [this](bool on) {
+        if (!on) {
+            verdict_->clear();
+        }
+        showTally();
+    });
+    connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
+    connect(boardTable_, &QPushButton::clicked, this, &StrategyWindow::useBoardTable);
+    connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
+
+    dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
+    showTally();
+    showTableNote();
+    figures_->showScale(scale_);
+    resize(sizeHint());
+    startGameWork();
+}
+
+StrategyWindow::~StrategyWindow() {
+    stopWork();
+}
+
+// Two columns: the dealt hand's holds and the trainer; the game's figures and the bankroll.
+void StrategyWindow::buildLayout() {
+    auto* columns = new QHBoxLayout(this);
+    auto* layout = new QVBoxLayout;
+    columns->addLayout(layout);
     dealtLabel_ = new QLabel(this);
     dealtLabel_->setObjectName(QStringLiteral("Dealt"));
     dealtLabel_->setTextFormat(Qt::RichText);
@@ -84,57 +119,111 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     verdict_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     layout->addWidget(verdict_);
 
+    auto* side = new QVBoxLayout;
+    columns->addLayout(side);
     auto* gameBox = new QGroupBox(
         tr("%1: best play over every deal")
-            .arg(QString::fromUtf8(variantFor(game).title.data(),
-                                   static_cast<qsizetype>(variantFor(game).title.size()))),
+            .arg(QString::fromUtf8(variantFor(game_).title.data(),
+                                   static_cast<qsizetype>(variantFor(game_).title.size()))),
         this);
     auto* gameLayout = new QVBoxLayout(gameBox);
-    figures_ = new GameFigures(game, gameBox);
+    auto* noteRow = new QHBoxLayout;
+    tableNote_ = new QLabel(gameBox);
+    tableNote_->setObjectName(QStringLiteral("PayTableNote"));
+    tableNote_->setTextFormat(Qt::RichText);
+    noteRow->addWidget(tableNote_, 1);
+    boardTable_ = new QPushButton(tr("Board's table"), gameBox);
+    boardTable_->setObjectName(QStringLiteral("BoardTable"));
+    noteRow->addWidget(boardTable_);
+    gameLayout->addLayout(noteRow);
+    figures_ = new GameFigures(game_, gameBox);
     gameLayout->addWidget(figures_);
-    layout->addWidget(gameBox);
+    side->addWidget(gameBox);
 
-    connect(trainer_, &QCheckBox::toggled, this, [this](bool on) {
-        if (!on) {
-            verdict_->clear();
-        }
-        showTally();
-    });
-
-    dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
-    showTally();
-    resize(sizeHint());
-    startBackgroundWork();
+    bankroll_ = new BankrollPanel(state_.BetAmount, this);
+    side->addWidget(bankroll_, 1);
 }
 
-StrategyWindow::~StrategyWindow() {
-    worker_.request_stop();
-    if (worker_.joinable()) {
-        worker_.join();
+void StrategyWindow::stopWork() {
+    gameWorker_.request_stop();
+    ruinWorker_.request_stop();
+    if (gameWorker_.joinable()) {
+        gameWorker_.join();
+    }
+    if (ruinWorker_.joinable()) {
+        ruinWorker_.join();
     }
 }
 
-// Builds the game's tables, then its whole-game figures, off the user-interface thread; each
-// result comes back to the window as a queued call.
-void StrategyWindow::startBackgroundWork() {
-    if (const auto known = cachedGameOdds(game_)) {
-        gameOddsReady(*known);
+// Builds the game's tables, then the whole-game figures of the table on show, off the
+// user-interface thread; each result comes back to the window as a queued call. The board's own
+// figures are kept for the life of the process once worked out.
+void StrategyWindow::startGameWork() {
+    gameWorker_.request_stop();
+    if (gameWorker_.joinable()) {
+        gameWorker_.join();
+    }
+    ++generation_;
+    if (!edited_) {
+        if (const auto known = cachedGameOdds(game_)) {
+            gameOddsReady(*known, generation_);
+        }
     }
     const bool needGame = !gameOddsShown_;
-    worker_ = std::jthread([this, needGame, game = game_, scale = scale_](std::stop_token stop) {
-        const odds::DrawTables& tables = odds::DrawTables::forGame(game);
+    gameWorker_ = std::jthread([this, needGame, game = game_, scale = scale_, own = !edited_,
+                                generation = generation_](std::stop_token stop) {
+        const odds::DrawTables* tables = odds::DrawTables::forGameUnlessStopped(game, stop);
+        if (tables == nullptr) {
+            return;
+        }
         QMetaObject::invokeMethod(
             this, [this] { tablesReady(); }, Qt::QueuedConnection);
         if (!needGame || stop.stop_requested()) {
             return;
         }
-        const auto result = odds::analyzeGame(tables, scale, odds::defaultThreadCount(), stop);
-        if (result) {
-            storeGameOdds(*result);
-            QMetaObject::invokeMethod(
-                this, [this, found = *result] { gameOddsReady(found); }, Qt::QueuedConnection);
+        const auto result = odds::analyzeGame(*tables, scale, odds::defaultThreadCount(), stop);
+        if (!result) {
+            return;
         }
+        if (own) {
+            storeGameOdds(*result);
+        }
+        QMetaObject::invokeMethod(
+            this, [this, found = *result, generation] { gameOddsReady(found, generation); },
+            Qt::QueuedConnection);
     });
+}
+
+// The risk curve of the table on show over the panel's hands, off the user-interface thread.
+void StrategyWindow::startRuinWork() {
+    ruinWorker_.request_stop();
+    if (ruinWorker_.joinable()) {
+        ruinWorker_.join();
+    }
+    bankroll_->showComputing();
+    if (!gameOdds_) {
+        return;
+    }
+    ruinWorker_ =
+        std::jthread([this, payouts = odds::payoutDistribution(*gameOdds_, scale_),
+                      hands = bankroll_->hands(), generation = generation_](std::stop_token stop) {
+            auto curve = odds::ruinCurve(payouts, hands, stop);
+            if (!curve) {
+                return;
+            }
+            QMetaObject::invokeMethod(
+                this,
+                [this, found = std::move(*curve), generation] {
+                    if (generation == generation_) {
+                        bankroll_->showCurve(found);
+                    }
+                },
+                Qt::QueuedConnection);
+        });
+}
+
+bool StrategyWindow::riskReady() const {
+    return bankroll_->curve().has_value();
 }
 
 void StrategyWindow::tablesReady() {
@@ -143,14 +232,61 @@ void StrategyWindow::tablesReady() {
     }
 }
 
-void StrategyWindow::gameOddsReady(const odds::GameOdds& result) {
+void StrategyWindow::gameOddsReady(const odds::GameOdds& result, int generation) {
+    if (generation != generation_) {
+        return;
+    }
+    gameOdds_ = result;
     figures_->showOdds(result, scale_);
     gameOddsShown_ = true;
+    startRuinWork();
+}
+
+void StrategyWindow::setMultiplier(int code, double multiplier) {
+    if (code < 1 || code > topCode(game_) || !(multiplier >= 0.0) ||
+        multiplier > GameFigures::kMostPay) {
+        return;
+    }
+    scale_.multiplier[static_cast<std::size_t>(code)] = multiplier;
+    payScaleChanged();
+}
+
+void StrategyWindow::useBoardTable() {
+    scale_ = boardScale_;
+    payScaleChanged();
+}
+
+// Every figure follows the table on show: the holds at once, the game and the risk once worked
+// out again.
+void StrategyWindow::payScaleChanged() {
+    edited_ = !sameScale(scale_, boardScale_);
+    showTableNote();
+    figures_->showScale(scale_);
+    figures_->showComputing();
+    gameOdds_.reset();
+    gameOddsShown_ = false;
+    ruinWorker_.request_stop();
+    startGameWork();
+    if (!gameOdds_) {
+        bankroll_->showComputing();
+    }
+    if (dealt_) {
+        handOdds_.reset();
+        analyseDeal();
+    }
+}
+
+void StrategyWindow::showTableNote() {
+    tableNote_->setText(edited_ ? tr("<span style=\"color:#b00000\"><b>Edited pay table</b>: not "
+                                     "the board's, which pays its own.</span>")
+                                : tr("The board's pay table."));
+    boardTable_->setEnabled(edited_);
 }
 
 void StrategyWindow::handDealt() {
     const DealtCards dealt = readDeal(state_);
     handOdds_.reset();
+    boardHandOdds_.reset();
     pendingPlay_.reset();
     verdict_->clear();
     if (!odds::isValidDeal(deckSize(game_), dealt)) {
@@ -173,6 +309,7 @@ void StrategyWindow::analyseDeal() {
         return;
     }
     handOdds_ = odds::analyzeHolds(*tables, *dealt_, scale_);
+    boardHandOdds_ = edited_ ? odds::analyzeHolds(*tables, *dealt_, boardScale_) : *handOdds_;
     holds_->showOdds(*dealt_, *handOdds_, state_.BetAmount);
     if (pendingPlay_) {
         judge(*pendingPlay_);
@@ -188,7 +325,7 @@ void StrategyWindow::handPlayed(std::array<bool, 5> held) {
     for (std::size_t p = 0; p < held.size(); ++p) {
         mask |= held[p] ? 1u << p : 0u;
     }
-    if (!handOdds_) {
+    if (!boardHandOdds_) {
         pendingPlay_ = mask;
         verdict_->setText(tr("Checking your hold\u2026"));
         return;
@@ -196,8 +333,9 @@ void StrategyWindow::handPlayed(std::array<bool, 5> held) {
     judge(mask);
 }
 
+// The trainer judges by the board's own table, whatever table the window shows.
 void StrategyWindow::judge(unsigned played) {
-    const TrainerVerdict verdict = tally_.judge(*handOdds_, played, state_.BetAmount);
+    const TrainerVerdict verdict = tally_.judge(*boardHandOdds_, played, state_.BetAmount);
     if (verdict.mistake) {
         verdict_->setText(
             tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
@@ -214,6 +352,7 @@ void StrategyWindow::judge(unsigned played) {
 
 void StrategyWindow::betChanged() {
     holds_->showBet(state_.BetAmount);
+    bankroll_->setBet(state_.BetAmount);
     if (dealt_) {
         showDealtLabel();
     }

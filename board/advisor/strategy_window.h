@@ -1,10 +1,13 @@
 #pragma once
 
 // The Strategy window: a companion to a board that lists the 32 ways to hold the dealt hand by
-// their exact return, the game's return under the best play, and in trainer mode tells the
-// player after a draw what a weaker hold cost. It only reads the shared state; closing it
-// changes nothing on the board. Its odds tables and whole-game figures are worked out on a
-// background thread so the board never waits for them.
+// their exact return, the game's return, variance and hit frequencies under the best play, the
+// risk of ruin of a session, and in trainer mode tells the player after a draw what a weaker
+// hold cost. The player may try another pay table here: the window then shows every figure under
+// that table, marked as not the board's, while the board and the trainer keep the board's own
+// table. It only reads the shared state; closing it changes nothing on the board. Its odds
+// tables, whole-game figures and risk curve are worked out on background threads that stop as
+// soon as the window goes, so the board never waits for them.
 
 // Standard library
 #include <array>
@@ -21,13 +24,16 @@
 #include "engine/odds/game_odds.h"
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/pay_scale.h"
+#include "engine/odds/risk_of_ruin.h"
 #include "state/game_state.h"
 
 class QCheckBox;
 class QLabel;
+class QPushButton;
 
 namespace marivale {
 
+class BankrollPanel;
 class GameFigures;
 
 class StrategyWindow : public QWidget {
@@ -43,26 +49,45 @@ public:
     // The pay table changed with the bet.
     void betChanged();
 
-    // True once the whole-game figures are on show.
+    // Shows every figure under another multiplier for a code (what the pay spin boxes do).
+    void setMultiplier(int code, double multiplier);
+    // Back to the board's own pay table.
+    void useBoardTable();
+    bool payTableEdited() const { return edited_; }
+    const odds::PayScale& payScale() const { return scale_; }
+
+    // True once the whole-game figures of the table on show are on show.
     bool gameFiguresReady() const { return gameOddsShown_; }
-    // The odds of the hand on show, once worked out.
+    // The odds of the hand on show under the table on show, once worked out.
     const std::optional<odds::HandOdds>& handOdds() const { return handOdds_; }
+    // True once the risk of ruin of the table on show is on show.
+    bool riskReady() const;
 
 private:
-    void startBackgroundWork();
+    void buildLayout();
+    void startGameWork();
+    void startRuinWork();
+    void stopWork();
     void tablesReady();
-    void gameOddsReady(const odds::GameOdds& result);
+    void gameOddsReady(const odds::GameOdds& result, int generation);
+    void payScaleChanged();
     void analyseDeal();
     void judge(unsigned played);
     void showTally();
     void showDealtLabel();
+    void showTableNote();
 
     GameId game_;
     const GameState& state_;
+    const odds::PayScale boardScale_;
     odds::PayScale scale_{};
+    bool edited_{false};
+    int generation_{0}; // counts the tables shown, so late results of an older one are dropped
+    std::optional<odds::GameOdds> gameOdds_{};
     std::optional<DealtCards> dealt_{};
     std::optional<odds::HandOdds> handOdds_{};
-    std::optional<unsigned> pendingPlay_{}; // a play made before the tables were ready
+    std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
+    std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready
     TrainerTally tally_{};
     bool gameOddsShown_{false};
 
@@ -71,10 +96,14 @@ private:
     QCheckBox* trainer_{nullptr};
     QLabel* verdict_{nullptr};
     QLabel* tallyLabel_{nullptr};
+    QLabel* tableNote_{nullptr};
+    QPushButton* boardTable_{nullptr};
     GameFigures* figures_{nullptr};
+    BankrollPanel* bankroll_{nullptr};
 
-    // Last member: stopped and joined first when the window goes.
-    std::jthread worker_{};
+    // Last members: stopped and joined first when the window goes.
+    std::jthread gameWorker_{};
+    std::jthread ruinWorker_{};
 };
 
 } // namespace marivale

@@ -1,16 +1,26 @@
 // The Strategy window: the best hold first with its exact return, dollars that follow the bet,
-// trainer mode's count of weaker holds and their cost, and the game's figures once worked out.
+// trainer mode's count of weaker holds and their cost, the game's figures once worked out, an
+// edited pay table with the board's table one click away, and the risk of ruin of a session.
 
 // Qt
+#include <QChartView>
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineSeries>
+#include <QPushButton>
+#include <QSpinBox>
 #include <QTableWidget>
 #include <QtTest>
 
 // Marivale
+#include "board/advisor/game_figures.h"
 #include "board/advisor/hold_table.h"
 #include "board/advisor/strategy_window.h"
 #include "engine/card.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/game_odds.h"
+#include "engine/odds/risk_of_ruin.h"
 #include "state/game_state.h"
 #include "tests/engine/hand_text.h"
 
@@ -43,7 +53,19 @@ struct Advisor {
     }
     QString label(const char* name) { return window.findChild<QLabel*>(name)->text(); }
     void trainer(bool on) { window.findChild<QCheckBox*>("Trainer")->setChecked(on); }
+    QDoubleSpinBox* pay(int code) {
+        return window.findChild<QDoubleSpinBox*>(QStringLiteral("Pay%1").arg(code));
+    }
+    bool waitForGame() {
+        return QTest::qWaitFor([this] { return window.gameFiguresReady(); }, kTablesTimeoutMs);
+    }
+    bool waitForRisk() {
+        return QTest::qWaitFor([this] { return window.riskReady(); }, kTablesTimeoutMs);
+    }
 };
+
+// 9/6 Jacks or Better from the Royal Flush (code 9) down.
+constexpr std::array<double, 9> kNineSix{800, 50, 25, 9, 6, 4, 3, 2, 1};
 
 } // namespace
 
@@ -58,6 +80,8 @@ private slots:
     void trainerOffCountsNothing();
     void handThatIsNoDealShowsNoHolds();
     void gameFiguresShowTheReturnOnceWorkedOut();
+    void editedPayTableShowsItsFiguresUntilTheBoardTableComesBack();
+    void riskOfRuinFollowsTheBankrollHandsAndBet();
 };
 
 void StrategyWindowTest::isAToolWindowCalledStrategy() {
@@ -189,13 +213,102 @@ void StrategyWindowTest::gameFiguresShowTheReturnOnceWorkedOut() {
     QVERIFY(advisor.label("GameReturn").contains(QStringLiteral("computing\u2026")));
     QVERIFY(QTest::qWaitFor([&] { return advisor.window.gameFiguresReady(); }, kTablesTimeoutMs));
     QVERIFY(advisor.label("GameReturn").contains("81.4339%"));
+    QCOMPARE(advisor.label("GameVariance"),
+             QStringLiteral("Variance of a hand: <b>10.0341</b> bets\u00b2 &nbsp; standard "
+                            "deviation: <b>3.1677</b> bets"));
     auto* hits = advisor.window.findChild<QTableWidget*>("HitFrequencies");
     QCOMPARE(hits->item(0, 0)->text(), QStringLiteral("Five of a Kind"));
-    QCOMPARE(hits->item(0, 1)->text(), QStringLiteral("\u00d7200"));
+    QCOMPARE(advisor.pay(9)->text(), QStringLiteral("\u00d7200.00"));
 
     // A second window of the same game shows the kept figures at once.
     Advisor again(GameId::JokerWild);
     QVERIFY(again.window.gameFiguresReady());
+}
+
+void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBack() {
+#ifndef MARIVALE_ODDS_OPTIMISED
+    QSKIP("whole games: optimised builds only");
+#endif
+    Advisor advisor(GameId::JacksOrBetter);
+    auto* boardTable = advisor.window.findChild<QPushButton*>("BoardTable");
+    QCOMPARE(advisor.label("PayTableNote"), QStringLiteral("The board's pay table."));
+    QVERIFY(!boardTable->isEnabled());
+    QVERIFY(advisor.waitForGame());
+    advisor.trainer(true);
+
+    for (int code = 9; code >= 1; --code) {
+        advisor.pay(code)->setValue(kNineSix[static_cast<std::size_t>(9 - code)]);
+    }
+    QVERIFY(advisor.window.payTableEdited());
+    QVERIFY(advisor.label("PayTableNote").contains("Edited pay table"));
+    QVERIFY(boardTable->isEnabled());
+    QVERIFY(advisor.waitForGame());
+    QVERIFY(advisor.label("GameReturn").contains("99.5439%"));
+    QVERIFY(advisor.label("GameVariance").contains("19.5147"));
+    auto* hits = advisor.window.findChild<QTableWidget*>("HitFrequencies");
+    QCOMPARE(hits->item(8, GameFigures::kFrequencyColumn)->text(), QStringLiteral("21.4585%"));
+
+    // Four to a royal under 9/6: (800 + 8 * 6 + 3 * 4 + 12) / 47 bets on show; the trainer
+    // still judges by the board's table, where standing on it costs 314 / 47 bets.
+    advisor.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(advisor.waitForHolds());
+    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("18.5532"));
+    advisor.window.handPlayed({true, true, true, true, true});
+    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+
+    QTest::mouseClick(boardTable, Qt::LeftButton);
+    QVERIFY(!advisor.window.payTableEdited());
+    QCOMPARE(advisor.label("PayTableNote"), QStringLiteral("The board's pay table."));
+    QVERIFY(!boardTable->isEnabled());
+    QCOMPARE(advisor.pay(9)->value(), 250.0);
+    QVERIFY(advisor.waitForGame());
+    QVERIFY(advisor.label("GameReturn").contains("83.7875%"));
+    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
+}
+
+void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
+#ifndef MARIVALE_ODDS_OPTIMISED
+    QSKIP("a whole game: optimised builds only");
+#endif
+    // The board's own Jacks or Better table at a dollar, from 160 bets over 1,600 hands.
+    Advisor advisor(GameId::JacksOrBetter);
+    advisor.state.BetAmount = 1.0f;
+    advisor.window.betChanged();
+    QVERIFY(advisor.waitForRisk());
+    const auto scale = odds::ownPayScale(GameId::JacksOrBetter);
+    const auto game = odds::analyzeGame(odds::DrawTables::forGame(GameId::JacksOrBetter), scale);
+    const auto payouts = odds::payoutDistribution(*game, scale);
+    const auto session = *odds::ruinCurve(payouts, 1600);
+    const auto percent = [](double risk) {
+        return QString::number(100.0 * risk, 'f', 4) + '%';
+    };
+    QCOMPARE(advisor.label("RiskOfRuin"),
+             QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $1.00 over 1,600 hands)")
+                 .arg(percent(session.riskAt(160))));
+    QVERIFY(advisor.label("RiskTargets")
+                .startsWith(QStringLiteral("Bankroll for 1% risk: <b>$%1.00</b>")
+                                .arg(session.bankrollFor(0.01))));
+    auto* chart = advisor.window.findChild<QChartView*>("RiskChart");
+    const auto* line = qobject_cast<QLineSeries*>(chart->chart()->series().front());
+    QVERIFY(line->count() > 10);
+    QCOMPARE(line->at(0).y(), 100.0);
+
+    // Half a bet covers nothing; at a quarter a bet the same dollars are four times the bets.
+    auto* bankroll = advisor.window.findChild<QDoubleSpinBox*>("Bankroll");
+    bankroll->setValue(0.5);
+    QVERIFY(advisor.label("RiskOfRuin").contains("<b>100.0000%</b>"));
+    bankroll->setValue(40.0);
+    advisor.state.BetAmount = 0.25f;
+    advisor.window.betChanged();
+    QVERIFY(advisor.label("RiskOfRuin").contains(percent(session.riskAt(160))));
+
+    // Fewer hands: a new curve.
+    advisor.window.findChild<QSpinBox*>("Hands")->setValue(100);
+    QVERIFY(advisor.label("RiskOfRuin").contains(QStringLiteral("computing")));
+    QVERIFY(advisor.waitForRisk());
+    QCOMPARE(advisor.label("RiskOfRuin"),
+             QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $0.25 over 100 hands)")
+                 .arg(percent(odds::ruinCurve(payouts, 100)->riskAt(160))));
 }
 
 QTEST_MAIN(StrategyWindowTest)

@@ -279,7 +279,7 @@ void MainMenu::visitBoard(GameId game) {
 }
 
 void MainMenu::openRealBoard(GameId game) {
-    QPointer<QDialog> board = new GameBoard(variantFor(game), state_, random_, this);
+    QPointer<QDialog> board = new GameBoard(variantFor(game), state_, random_, this, &stats_);
     // Closing a board returns to this menu; it never ends the program, even with the menu hidden.
     board->setAttribute(Qt::WA_QuitOnClose, false);
     board->exec();

@@ -16,6 +16,7 @@
 #include <QRect>
 
 // Marivale
+#include "board/stats/session_stats.h"
 #include "engine/game.h"
 #include "engine/random_source.h"
 #include "state/game_state.h"
@@ -76,6 +77,7 @@ private:
     GameState& state_;
     [[maybe_unused]] RandomSource& random_; // handed to the boards
     Hooks hooks_{};
+    SessionStats stats_{}; // the run's statistics, handed to every board
     std::filesystem::path dataDirectory_{};
     QRect placedRect_{};            // the outer rectangle the load applied, in pixels
     bool placementUnframed_{false}; // applied before the window manager framed the window

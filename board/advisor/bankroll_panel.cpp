@@ -184,6 +184,7 @@ void BankrollPanel::drawChart() {
     line_->replace(points);
     mark_->append(bets * bet_, 100.0 * curve_->riskAt(bets));
     xAxis_->setRange(0.0, end * bet_);
+    xAxis_->applyNiceNumbers();
 }
 
 } // namespace marivale

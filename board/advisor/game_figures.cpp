@@ -79,6 +79,11 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     hits_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hits_->setFixedHeight(hits_->horizontalHeader()->sizeHint().height() + rows * kRowHeight +
                           2 * hits_->frameWidth());
+    int width = 2 * hits_->frameWidth();
+    for (const int column : kColumnWidth) {
+        width += column;
+    }
+    hits_->setMinimumWidth(width);
     int row = 0;
     for (int code = topCode(game); code >= 1; --code, ++row) {
         hits_->setItem(row, 0, makeItem(handLabel(game, code), Qt::AlignLeft));

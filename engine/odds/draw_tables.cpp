@@ -194,11 +194,16 @@ DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     : game_(game), deckSize_(marivale::deckSize(game)) {
     const auto start = std::chrono::steady_clock::now();
     classes_ = &subsetClassTables(deckSize_);
+    const auto check = [&stop] {
+        if (stop.stop_requested()) {
+            throw BuildStopped{};
+        }
+    };
+    check();
     classifyDeals(threads, stop);
-    if (stop.stop_requested()) {
-        throw BuildStopped{};
-    }
+    check();
     countFours();
+    check();
     sumSmallerSets();
     buildSeconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }

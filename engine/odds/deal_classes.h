@@ -7,6 +7,7 @@
 // Standard library
 #include <array>
 #include <cstdint>
+#include <stop_token>
 #include <vector>
 
 // Marivale
@@ -22,5 +23,7 @@ struct DealClass {
 
 // Every class of a 52- or 53-card deck, built once per deck size.
 const std::vector<DealClass>& dealClasses(int deckSize);
+// The same, but gives up (nullptr) once `stop` is requested, whether building or waiting.
+const std::vector<DealClass>* dealClassesUnlessStopped(int deckSize, std::stop_token stop);
 
 } // namespace marivale::odds

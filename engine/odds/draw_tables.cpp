@@ -2,12 +2,9 @@
 
 // Standard library
 #include <algorithm>
-#include <atomic>
 #include <bit>
 #include <chrono>
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 #include <stdexcept>
 
 // Marivale
@@ -33,17 +30,9 @@ constexpr std::array<std::uint8_t, 32> kMaskSize = [] {
     return sizes;
 }();
 
-struct LazyTables {
-    std::mutex mutex{};
-    std::condition_variable_any changed{};
-    bool building{false};
-    std::unique_ptr<DrawTables> tables{};
-    std::atomic<const DrawTables*> ready{nullptr};
-};
-
 // One lazily built table set per game, indexed by GameId.
-LazyTables& lazyFor(GameId game) {
-    static std::array<LazyTables, 4> all{};
+StoppableOnce<DrawTables>& lazyFor(GameId game) {
+    static std::array<StoppableOnce<DrawTables>, 4> all{};
     return all[static_cast<std::size_t>(game)];
 }
 
@@ -150,67 +139,37 @@ const DrawTables& DrawTables::forGame(GameId game) {
 }
 
 const DrawTables* DrawTables::forGameUnlessStopped(GameId game, std::stop_token stop) {
-    LazyTables& lazy = lazyFor(game);
-    std::unique_lock lock(lazy.mutex);
-    while (!lazy.tables) {
-        if (lazy.building) {
-            // Another caller builds them: wait for it, or give up when asked to.
-            if (!lazy.changed.wait(lock, stop, [&] { return !lazy.building; })) {
-                return nullptr;
-            }
-            continue;
-        }
-        lazy.building = true;
-        lock.unlock();
-        std::unique_ptr<DrawTables> built;
-        try {
-            built = std::make_unique<DrawTables>(game, defaultThreadCount(), stop);
-        } catch (const BuildStopped&) {
-        } catch (...) {
-            lock.lock();
-            lazy.building = false;
-            lazy.changed.notify_all();
-            throw;
-        }
-        lock.lock();
-        lazy.building = false;
-        if (built) {
-            lazy.tables = std::move(built);
-            lazy.ready.store(lazy.tables.get(), std::memory_order_release);
-        }
-        lazy.changed.notify_all();
-        if (!lazy.tables) {
-            return nullptr;
-        }
-    }
-    return lazy.tables.get();
+    return lazyFor(game).get(stop, [game](std::stop_token building) {
+        return std::make_unique<DrawTables>(game, defaultThreadCount(), building);
+    });
 }
 
 const DrawTables* DrawTables::ifBuilt(GameId game) {
-    return lazyFor(game).ready.load(std::memory_order_acquire);
+    return lazyFor(game).ifBuilt();
 }
 
 DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     : game_(game), deckSize_(marivale::deckSize(game)) {
     const auto start = std::chrono::steady_clock::now();
-    classes_ = &subsetClassTables(deckSize_);
-    const auto check = [&stop] {
-        if (stop.stop_requested()) {
-            throw BuildStopped{};
-        }
-    };
-    check();
+    classes_ = subsetClassTablesUnlessStopped(deckSize_, stop);
+    if (classes_ == nullptr) {
+        throw BuildStopped{};
+    }
     classifyDeals(threads, stop);
-    check();
+    throwIfStopped(stop);
     countFours();
-    check();
+    throwIfStopped(stop);
     sumSmallerSets();
     buildSeconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 // Classifies one deal of every suit class, then gives each outcome that occurs its slot.
 void DrawTables::classifyDeals(int threads, std::stop_token stop) {
-    const std::vector<DealClass>& deals = dealClasses(deckSize_);
+    const std::vector<DealClass>* all = dealClassesUnlessStopped(deckSize_, stop);
+    if (all == nullptr) {
+        throw BuildStopped{};
+    }
+    const std::vector<DealClass>& deals = *all;
     dealOutcomes_.assign(deals.size(), 0);
     std::vector<std::array<bool, kRawValues>> seen(static_cast<std::size_t>(std::max(threads, 1)));
     const int chunks = static_cast<int>((deals.size() + kClassifyChunk - 1) / kClassifyChunk);

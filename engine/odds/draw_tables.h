@@ -9,7 +9,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <exception>
 #include <span>
 #include <stop_token>
 #include <vector>
@@ -19,6 +18,7 @@
 #include "engine/game.h"
 #include "engine/odds/combinatorics.h"
 #include "engine/odds/outcome.h"
+#include "engine/odds/stoppable_once.h"
 
 namespace marivale::odds {
 
@@ -28,11 +28,6 @@ struct SubsetClassTables;
 using SubsetCounts = std::array<OutcomeCounts, 32>;
 // The suit class of each subset of one to four cards of a deal, by mask over sorted positions.
 using SubsetClasses = std::array<std::uint16_t, 32>;
-
-// Thrown by a table build that was asked to stop.
-struct BuildStopped : std::exception {
-    const char* what() const noexcept override { return "odds table build stopped"; }
-};
 
 class DrawTables {
 public:

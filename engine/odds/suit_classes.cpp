@@ -3,7 +3,11 @@
 // Standard library
 #include <algorithm>
 #include <bit>
+#include <memory>
 #include <stdexcept>
+
+// Marivale
+#include "engine/odds/stoppable_once.h"
 
 namespace marivale::odds {
 namespace {
@@ -93,18 +97,23 @@ Patterns patternsOf(std::span<const CardCode> cards) {
     return patterns;
 }
 
-SubsetClassTables buildTables(int deckSize) {
-    SubsetClassTables tables;
+constexpr std::size_t kStopCheck = 4096;
+
+std::unique_ptr<SubsetClassTables> buildTables(int deckSize, std::stop_token stop) {
+    auto tables = std::make_unique<SubsetClassTables>();
     for (int size = 0; size < kHandSize; ++size) {
-        auto& classes = tables.classes[static_cast<std::size_t>(size)];
-        classes = buildSuitClasses(deckSize, size);
+        auto& classes = tables->classes[static_cast<std::size_t>(size)];
+        classes = buildSuitClasses(deckSize, size, stop);
         if (classes.size() > 0xffff) {
             throw std::logic_error("too many suit classes for 16-bit numbers");
         }
-        auto& classOf = tables.classOfSet[static_cast<std::size_t>(size)];
+        auto& classOf = tables->classOfSet[static_cast<std::size_t>(size)];
         classOf.assign(binomial(deckSize, size), 0);
         // Every renaming of the suits of a representative lands in its class.
         for (std::size_t id = 0; id < classes.size(); ++id) {
+            if (id % kStopCheck == 0) {
+                throwIfStopped(stop);
+            }
             const SuitClass& rep = classes[id];
             Patterns renamed = patternsOf(rep.set());
             const bool joker = rep.size > 0 && rep.cards[rep.size - 1u] == kJoker;
@@ -124,7 +133,7 @@ SubsetClassTables buildTables(int deckSize) {
 
 } // namespace
 
-std::vector<SuitClass> buildSuitClasses(int deckSize, int size) {
+std::vector<SuitClass> buildSuitClasses(int deckSize, int size, std::stop_token stop) {
     std::vector<SuitClass> classes;
     for (int joker = 0; joker <= (deckSize > kJoker ? 1 : 0); ++joker) {
         const int natural = size - joker;
@@ -132,6 +141,9 @@ std::vector<SuitClass> buildSuitClasses(int deckSize, int size) {
             continue;
         }
         auto visit = [&](const Patterns& patterns) {
+            if (classes.size() % kStopCheck == 0) {
+                throwIfStopped(stop);
+            }
             SuitClass rep;
             rep.size = static_cast<std::uint8_t>(cardsOf(patterns, joker != 0, rep.cards));
             rep.weight = static_cast<std::uint8_t>(arrangements(patterns));
@@ -153,12 +165,13 @@ std::size_t SubsetClassTables::memoryBytes() const {
 }
 
 const SubsetClassTables& subsetClassTables(int deckSize) {
-    static const SubsetClassTables natural = buildTables(52);
-    if (deckSize == 52) {
-        return natural;
-    }
-    static const SubsetClassTables withJoker = buildTables(kMaxDeck);
-    return withJoker;
+    return *subsetClassTablesUnlessStopped(deckSize, {});
+}
+
+const SubsetClassTables* subsetClassTablesUnlessStopped(int deckSize, std::stop_token stop) {
+    static std::array<StoppableOnce<SubsetClassTables>, 2> byDeck{};
+    return byDeck[deckSize == 52 ? 0 : 1].get(
+        stop, [deckSize](std::stop_token building) { return buildTables(deckSize, building); });
 }
 
 } // namespace marivale::odds

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <stop_token>
 #include <vector>
 
 // Marivale
@@ -25,8 +26,9 @@ struct SuitClass {
     std::span<const CardCode> set() const { return {cards.data(), size}; }
 };
 
-// Every class of sets of `size` cards (0..5) of a 52- or 53-card deck.
-std::vector<SuitClass> buildSuitClasses(int deckSize, int size);
+// Every class of sets of `size` cards (0..5) of a 52- or 53-card deck; throws BuildStopped once
+// `stop` is requested.
+std::vector<SuitClass> buildSuitClasses(int deckSize, int size, std::stop_token stop = {});
 
 // The classes of the sets of one to four cards of a deck, and for every such set (by its colex
 // number) the index of its class. Built once per deck size.
@@ -37,5 +39,7 @@ struct SubsetClassTables {
 };
 
 const SubsetClassTables& subsetClassTables(int deckSize);
+// The same, but gives up (nullptr) once `stop` is requested, whether building or waiting.
+const SubsetClassTables* subsetClassTablesUnlessStopped(int deckSize, std::stop_token stop);
 
 } // namespace marivale::odds

@@ -30,6 +30,7 @@ namespace {
 constexpr const char* kCloseOnce = "--close-once";
 // How long the window works before the board closes.
 constexpr auto kWorking = std::chrono::milliseconds(10);
+// MARIVALE_WORKING_MS overrides it, e.g. to time a window that has finished its work.
 
 // The child's part: prints the microseconds the window took to go.
 int closeOnce(int argc, char** argv) {
@@ -38,8 +39,11 @@ int closeOnce(int argc, char** argv) {
     state.BetAmount = 1.0f;
     auto* window = new StrategyWindow(GameId::JacksOrBetter, state);
     window->show();
+    const char* override = std::getenv("MARIVALE_WORKING_MS");
+    const auto working =
+        override != nullptr ? std::chrono::milliseconds(std::atoi(override)) : kWorking;
     const auto opened = std::chrono::steady_clock::now();
-    while (std::chrono::steady_clock::now() - opened < kWorking) {
+    while (std::chrono::steady_clock::now() - opened < working) {
         QApplication::processEvents();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }

@@ -35,6 +35,9 @@ constexpr bool isDigit(char c) {
 // Exponents are clamped here while being read: far beyond any float, short of overflowing.
 constexpr long kExponentClamp = 100000;
 
+// Reading stops after this many bytes; the first field lies far before.
+constexpr std::size_t kReadLimit = 1 << 20;
+
 // Plain digits are written for decimal exponents in [kPlainLowest, kPlainHighest].
 constexpr int kPlainLowest = -5;
 constexpr int kPlainHighest = 14;
@@ -102,27 +105,6 @@ long orderOf(const NumberShape& shape) {
         return 0;
     }
     return -static_cast<long>(firstFraction) - 1 + shape.exponent;
-}
-
-SaveOutcome failure(SaveOutcome outcome, std::string_view what, int error) {
-    outcome.saved = false;
-    outcome.reason = std::string(what) + ": " + std::generic_category().message(error);
-    return outcome;
-}
-
-// Writes the whole text to the descriptor, retrying short writes.
-bool writeAll(int fd, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = ::write(fd, text.data(), text.size());
-        if (written < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            return false;
-        }
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
 }
 
 std::filesystem::path directoryOrCurrent(const std::filesystem::path& directory) {
@@ -233,84 +215,62 @@ std::filesystem::path dataFilePath(const std::filesystem::path& directory) {
     return absolute.empty() ? path : absolute.lexically_normal();
 }
 
-std::optional<float> loadTotal(const std::filesystem::path& directory) {
+ReadOutcome readDataFile(const std::filesystem::path& directory) {
+    ReadOutcome outcome;
     const auto path = directoryOrCurrent(directory) / kDataFileName;
     const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
-        return std::nullopt;
+        const int error = errno;
+        outcome.status = error == ENOENT ? ReadStatus::Missing : ReadStatus::Unreadable;
+        outcome.reason = std::generic_category().message(error);
+        outcome.writable = error == ENOENT || ::access(path.c_str(), W_OK) == 0;
+        return outcome;
     }
-    // Only a plain file counts: a folder, a pipe or a device in its place is no data file.
+    // Only a plain file counts: a folder, a pipe or a device in its place is left alone.
     struct stat info {};
     std::string text;
-    if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode)) {
-        std::array<char, 4096> chunk{};
-        for (;;) {
-            const ssize_t got = ::read(fd, chunk.data(), chunk.size());
-            if (got < 0 && errno == EINTR) {
-                continue;
-            }
-            if (got <= 0) {
-                break;
-            }
-            text.append(chunk.data(), static_cast<std::size_t>(got));
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+        outcome.status = ReadStatus::Unreadable;
+        outcome.reason = S_ISDIR(info.st_mode) ? "it is a folder" : "it is not a plain file";
+        outcome.writable = false;
+        ::close(fd);
+        return outcome;
+    }
+    std::array<char, 4096> chunk{};
+    for (;;) {
+        const ssize_t got = ::read(fd, chunk.data(), chunk.size());
+        if (got < 0 && errno == EINTR) {
+            continue;
         }
+        if (got < 0) {
+            outcome.status = ReadStatus::Unreadable;
+            outcome.reason = std::generic_category().message(errno);
+            outcome.writable = false;
+            ::close(fd);
+            return outcome;
+        }
+        if (got == 0 || text.size() >= kReadLimit) {
+            break;
+        }
+        text.append(chunk.data(), static_cast<std::size_t>(got));
     }
     ::close(fd);
-    return parseTotal(text);
-}
-
-SaveOutcome saveTotal(const std::filesystem::path& directory, float total,
-                      const BeforeReplace& beforeReplace) {
-    SaveOutcome outcome;
-    outcome.file = dataFilePath(directory);
-    const auto folder = directoryOrCurrent(directory);
-    const auto target = folder / kDataFileName;
-
-    std::string temporary = (folder / ".mpdata.dat.XXXXXX").string();
-    const int fd = ::mkstemp(temporary.data());
-    if (fd < 0) {
-        return failure(outcome, "cannot create a file in the folder", errno);
+    outcome.writable = ::access(path.c_str(), W_OK) == 0;
+    if (const auto total = parseTotal(text)) {
+        outcome.status = ReadStatus::Read;
+        outcome.total = *total;
+    } else {
+        outcome.status = ReadStatus::NotANumber;
     }
-    // Keep the permissions of the file being replaced; a new file gets rw-r--r--.
-    struct stat old {};
-    const mode_t mode = ::stat(target.c_str(), &old) == 0 && S_ISREG(old.st_mode)
-                            ? static_cast<mode_t>(old.st_mode & 07777)
-                            : static_cast<mode_t>(0644);
-    const std::string record = totalRecord(total);
-    int error = 0;
-    if (!writeAll(fd, record)) {
-        error = errno;
-    } else if (::fchmod(fd, mode) != 0 || ::fsync(fd) != 0) {
-        error = errno;
-    }
-    if (::close(fd) != 0 && error == 0) {
-        error = errno;
-    }
-    if (error != 0) {
-        ::unlink(temporary.c_str());
-        return failure(outcome, "cannot write the file", error);
-    }
-    if (beforeReplace && !beforeReplace(temporary)) {
-        ::unlink(temporary.c_str());
-        return failure(outcome, "the save was interrupted", EINTR);
-    }
-    if (::rename(temporary.c_str(), target.c_str()) != 0) {
-        error = errno;
-        ::unlink(temporary.c_str());
-        return failure(outcome, "cannot replace the file", error);
-    }
-    // Make the rename itself durable; a failure here no longer endangers the data.
-    const int folderFd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-    if (folderFd >= 0) {
-        ::fsync(folderFd);
-        ::close(folderFd);
-    }
-    outcome.saved = true;
     return outcome;
 }
 
-SaveOutcome writeRecoveryRecord(const std::filesystem::path& directory) {
-    return saveTotal(directory, 0.0f);
+std::optional<float> loadTotal(const std::filesystem::path& directory) {
+    const ReadOutcome outcome = readDataFile(directory);
+    if (outcome.status != ReadStatus::Read) {
+        return std::nullopt;
+    }
+    return outcome.total;
 }
 
 } // namespace marivale

@@ -14,9 +14,7 @@
 // digits for magnitudes from 1E-05 up to below 1E+15 (123456789 is written 123456800), the
 // exponent form "1.234568E+15" outside that span. The line ends with CR LF.
 //
-// Saving replaces the file atomically: a temporary file in the same directory is written,
-// synced and renamed over the data file, so an interrupted save leaves either the old file or
-// the new one, never a torn one.
+// Saving lives in data_file_save.h, which uses QtCore; this reader stays free of any toolkit.
 
 #include <filesystem>
 #include <functional>
@@ -37,29 +35,28 @@ std::string formatTotal(float total);
 // The whole file content for a total: the number, CR and LF.
 std::string totalRecord(float total);
 
-// What became of a save: the full path of the data file and, on failure, the reason.
-struct SaveOutcome {
-    bool saved{false};
-    std::filesystem::path file{};
-    std::string reason{};
-};
-
 // The data file's path in a directory.
 std::filesystem::path dataFilePath(const std::filesystem::path& directory);
 
-// Reads the total from the data file in the directory; nothing when the file is missing,
-// unreadable or does not start with a number (the caller then runs the recovery).
+// What reading the data file found.
+enum class ReadStatus {
+    Read,       // the file starts with a number
+    Missing,    // there is no file (or a link to nothing): the recovery creates it
+    NotANumber, // the file is empty or does not start with a number: the recovery rewrites it
+    Unreadable, // the file is there but cannot be read (permissions, a folder): it is left alone
+};
+
+struct ReadOutcome {
+    ReadStatus status{ReadStatus::Missing};
+    float total{0.0f};
+    bool writable{true};  // the file, read or not, may be written by this process
+    std::string reason{}; // why an Unreadable file could not be read
+};
+
+// Reads the data file in the directory (the current one when empty).
+ReadOutcome readDataFile(const std::filesystem::path& directory);
+
+// The total of the data file in the directory; nothing unless readDataFile finds a number.
 std::optional<float> loadTotal(const std::filesystem::path& directory);
-
-// Called once the temporary file is written and synced, just before it replaces the data file;
-// returning false abandons the save at that point, as a crash there would.
-using BeforeReplace = std::function<bool(const std::filesystem::path& temporaryFile)>;
-
-// Writes the total to the data file in the directory, replacing the old file atomically.
-SaveOutcome saveTotal(const std::filesystem::path& directory, float total,
-                      const BeforeReplace& beforeReplace = {});
-
-// The recovery after an unreadable file: the file is rewritten holding 0.
-SaveOutcome writeRecoveryRecord(const std::filesystem::path& directory);
 
 } // namespace marivale

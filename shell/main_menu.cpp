@@ -27,7 +27,6 @@
 #include "board/game_board.h"
 #include "board/game_variant.h"
 #include "engine/money_format.h"
-#include "shell/data_file.h"
 #include "shell/help_dialog.h"
 #include "shell/placement.h"
 
@@ -226,21 +225,17 @@ void MainMenu::loadWindow() {
     state_.DoubleUpEnabled = kFalse;
     showDoubleUpStatus();
 
-    dataDirectory_ = std::filesystem::current_path();
-    if (const auto total = loadTotal(dataDirectory_)) {
-        state_.NetWinLoss = *total;
-        showTotal("");
-        return;
-    }
-    const SaveOutcome recovered = writeRecoveryRecord(dataDirectory_);
-    state_.NetWinLoss = 0.0f;
+    // The total, or the recovery's 0; a file that cannot be kept is reported once.
+    const TotalKeeper::Loaded loaded = keeper_.load();
+    state_.NetWinLoss = loaded.total;
     showTotal("");
-    if (!recovered.saved) {
-        warnPlayer(tr("The file that keeps your total could not be created:\n%1\n(%2)\n\n"
-                      "You can play on; the total starts at $0.00 and may not be kept.")
-                       .arg(QString::fromStdString(recovered.file.string()),
-                            QString::fromStdString(recovered.reason)));
+    if (!loaded.warning.empty()) {
+        warnPlayer(QString::fromStdString(loaded.warning));
     }
+}
+
+void MainMenu::closeUnattended() {
+    unattended_ = true;
 }
 
 void MainMenu::setPlayUnit(int index) {
@@ -275,6 +270,9 @@ void MainMenu::visitBoard(GameId game) {
         openRealBoard(game);
     }
     showTotal(variantFor(game).statCaptionAtZero);
+    if (unattended_) {
+        return; // the program is closing: the menu closes without showing itself again
+    }
     show();
 }
 
@@ -324,13 +322,14 @@ bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
 
 // The close sequence: the total first, then the other windows, then the placement.
 void MainMenu::closeEvent(QCloseEvent* event) {
-    const SaveOutcome saved = saveTotal(dataDirectory_, state_.NetWinLoss);
-    if (!saved.saved) {
-        warnPlayer(tr("Your total of %1 could not be saved.\n\nThe file\n%2\ncould not be "
-                      "written (%3).")
-                       .arg(QString::fromStdString(FormatMoney(state_.NetWinLoss, kTotalPattern)),
-                            QString::fromStdString(saved.file.string()),
-                            QString::fromStdString(saved.reason)));
+    if (closing_) {
+        event->accept(); // a second close while the first one runs
+        return;
+    }
+    closing_ = true;
+    const std::string problem = keeper_.save(state_.NetWinLoss);
+    if (!problem.empty()) {
+        warnPlayer(QString::fromStdString(problem));
     }
     unloadOtherWindows();
     if (!isMinimized()) {
@@ -356,12 +355,26 @@ void MainMenu::unloadOtherWindows() {
     }
 }
 
+// At the close the player reads the message before the program ends, unless nobody is there
+// to answer; otherwise it shows beside the menu without stopping anything.
 void MainMenu::warnPlayer(const QString& message) {
     if (hooks_.warn) {
         hooks_.warn(message);
         return;
     }
-    QMessageBox::warning(this, "Marivale Poker", message);
+    if (unattended_) {
+        qWarning("%s", qPrintable(message));
+        return;
+    }
+    if (closing_) {
+        QMessageBox::warning(this, "Marivale Poker", message);
+        return;
+    }
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, "Marivale Poker", message, QMessageBox::Ok, this);
+    box->setObjectName("DataFileWarning");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QTimer::singleShot(0, box, [box] { box->open(); });
 }
 
 void MainMenu::showEvent(QShowEvent* event) {

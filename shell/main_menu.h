@@ -19,6 +19,7 @@
 #include "board/stats/session_stats.h"
 #include "engine/game.h"
 #include "engine/random_source.h"
+#include "shell/total_keeper.h"
 #include "state/game_state.h"
 
 class QButtonGroup;
@@ -46,6 +47,10 @@ public:
     // file in the current directory.
     MainMenu(GameState& state, RandomSource& random, Hooks hooks = {}, QWidget* parent = nullptr);
     ~MainMenu() override;
+
+    // From now on the close asks nothing: a logout or a signal is closing the program, so a
+    // message about the data file goes to the error output instead of a window.
+    void closeUnattended();
 
 signals:
     // The close sequence has run; the program may end.
@@ -78,7 +83,9 @@ private:
     [[maybe_unused]] RandomSource& random_; // handed to the boards
     Hooks hooks_{};
     SessionStats stats_{}; // the run's statistics, handed to every board
-    std::filesystem::path dataDirectory_{};
+    TotalKeeper keeper_{};
+    bool unattended_{false};        // closing for a logout or a signal: nobody is asked anything
+    bool closing_{false};           // the close sequence has begun
     QRect placedRect_{};            // the outer rectangle the load applied, in pixels
     bool placementUnframed_{false}; // applied before the window manager framed the window
 

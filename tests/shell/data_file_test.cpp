@@ -13,8 +13,15 @@
 #include <regex>
 #include <string>
 
+// POSIX
+#include <sys/stat.h>
+
 // GoogleTest
 #include <gtest/gtest.h>
+
+// Marivale
+#include "shell/data_file_save.h"
+#include "tests/shell/unprivileged.h"
 
 namespace marivale {
 namespace {
@@ -241,19 +248,44 @@ TEST_F(DataFileFolder, SaveWritesTheRecordAndLeavesNothingElse) {
     EXPECT_TRUE(strayEntries().empty());
 }
 
-TEST_F(DataFileFolder, SaveKeepsTheFilesPermissions) {
-    writeFile("1\r\n");
-    fs::permissions(folder_ / "mpdata.dat", fs::perms::owner_read | fs::perms::owner_write);
-    ASSERT_TRUE(saveTotal(folder_, 2.0f).saved);
-    EXPECT_EQ(fs::status(folder_ / "mpdata.dat").permissions(),
-              fs::perms::owner_read | fs::perms::owner_write);
+// The mode a save leaves, by the mode the file had: kept, with the owner's read and write added.
+TEST_F(DataFileFolder, SaveKeepsTheModeAndTheOwnersReadAndWrite) {
+    struct ModeCase {
+        mode_t before;
+        mode_t after;
+    };
+    const ModeCase cases[] = {{0600, 0600}, {0640, 0640}, {0644, 0644}, {0664, 0664}};
+    for (const ModeCase& c : cases) {
+        writeFile("1\r\n");
+        ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), c.before), 0);
+        ASSERT_TRUE(saveTotal(folder_, 2.0f).saved);
+        struct stat info {};
+        ASSERT_EQ(::stat((folder_ / "mpdata.dat").c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 07777, c.after) << std::oct << c.before;
+        EXPECT_EQ(fileContent(), "2\r\n");
+    }
+}
+
+// Root may read a file of mode 000; what it writes back is still readable by its owner.
+TEST_F(DataFileFolder, AFileWithoutModeBitsIsWrittenBackReadable) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root reads a file of mode 000; other users meet the unreadable case";
+    }
+    writeFile("-12.5\r\n");
+    ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), 0), 0);
+    EXPECT_EQ(loadTotal(folder_), -12.5f);
+    ASSERT_TRUE(saveTotal(folder_, 3.0f).saved);
+    struct stat info {};
+    ASSERT_EQ(::stat((folder_ / "mpdata.dat").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0600u);
 }
 
 TEST_F(DataFileFolder, InterruptedSaveLeavesThePreviousFile) {
     writeFile("250\r\n");
-    const SaveOutcome outcome = saveTotal(folder_, 99.5f, [](const fs::path& temporary) {
-        // Tear the new file as a crash in mid-write would, then stop before the replace.
-        std::ofstream(temporary, std::ios::binary | std::ios::trunc) << "9";
+    const SaveOutcome outcome = saveTotal(folder_, 99.5f, [this] {
+        // The new content is written and synced, yet the data file still holds the old one;
+        // stopping here is what a crash at this moment would do.
+        EXPECT_EQ(fileContent(), "250\r\n");
         return false;
     });
     EXPECT_FALSE(outcome.saved);
@@ -263,16 +295,92 @@ TEST_F(DataFileFolder, InterruptedSaveLeavesThePreviousFile) {
     EXPECT_TRUE(strayEntries().empty());
 }
 
-TEST_F(DataFileFolder, FailedReplaceIsReportedWithThePath) {
-    // A folder where the file should be: the replace cannot happen, even for root.
+// What the reader makes of each thing it may find under the data file's name.
+TEST_F(DataFileFolder, ReadTellsMissingFromEmptyFromUnreadable) {
+    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::Missing);
+    writeFile("");
+    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::NotANumber);
+    writeFile("total: 5\r\n");
+    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::NotANumber);
+    writeFile("-12.5\r\n");
+    const ReadOutcome read = readDataFile(folder_);
+    EXPECT_EQ(read.status, ReadStatus::Read);
+    EXPECT_EQ(read.total, -12.5f);
+    EXPECT_TRUE(read.writable);
+    fs::remove(folder_ / "mpdata.dat");
+    fs::create_directory(folder_ / "mpdata.dat");
+    const ReadOutcome folder = readDataFile(folder_);
+    EXPECT_EQ(folder.status, ReadStatus::Unreadable);
+    EXPECT_EQ(folder.reason, "it is a folder");
+}
+
+TEST_F(DataFileFolder, AFolderInThePlaceOfTheFileIsLeftAlone) {
+    // Neither reading nor replacing works here, even for root.
     fs::create_directory(folder_ / "mpdata.dat");
     EXPECT_FALSE(loadTotal(folder_).has_value());
     const SaveOutcome outcome = saveTotal(folder_, 5.0f);
     EXPECT_FALSE(outcome.saved);
     EXPECT_EQ(outcome.file, folder_ / "mpdata.dat");
-    EXPECT_NE(outcome.reason.find("cannot replace"), std::string::npos) << outcome.reason;
+    EXPECT_FALSE(outcome.reason.empty());
     EXPECT_TRUE(fs::is_directory(folder_ / "mpdata.dat"));
     EXPECT_TRUE(strayEntries().empty());
+}
+
+// A link stays a link and the file it points to, in another folder, receives the total; a link
+// to nothing gets its file made. Links through links are followed to the end.
+TEST_F(DataFileFolder, ALinkStaysALinkAndItsTargetReceivesTheTotal) {
+    const fs::path elsewhere = folder_ / "elsewhere";
+    fs::create_directory(elsewhere);
+    std::ofstream(elsewhere / "real.dat", std::ios::binary) << "-12.5\r\n";
+    fs::create_symlink(elsewhere / "real.dat", folder_ / "middle.dat");
+    fs::create_symlink("middle.dat", folder_ / "mpdata.dat");
+    EXPECT_EQ(loadTotal(folder_), -12.5f);
+    ASSERT_TRUE(saveTotal(folder_, 7.25f).saved);
+    EXPECT_TRUE(fs::is_symlink(folder_ / "mpdata.dat"));
+    EXPECT_EQ(fs::read_symlink(folder_ / "mpdata.dat"), "middle.dat");
+    EXPECT_TRUE(fs::is_symlink(folder_ / "middle.dat"));
+    EXPECT_EQ(fileContent(), "7.25\r\n");
+    EXPECT_EQ(fs::directory_iterator(elsewhere)->path().filename(), "real.dat");
+
+    fs::remove(elsewhere / "real.dat");
+    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::Missing);
+    ASSERT_TRUE(writeRecoveryRecord(folder_).saved);
+    EXPECT_TRUE(fs::is_symlink(folder_ / "mpdata.dat"));
+    EXPECT_EQ(fileContent(), "0\r\n");
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(elsewhere / "real.dat")));
+}
+
+// As an ordinary user: a file nobody may read is reported unreadable, not writable, and a save
+// does not get past it; a read-only folder holding a writable file has it rewritten in place.
+TEST_F(DataFileFolder, PermissionsAsAnOrdinaryUser) {
+    runUnprivileged(folder_, [this] {
+        writeFile("250\r\n");
+        ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), 0), 0);
+        const ReadOutcome locked = readDataFile(folder_);
+        EXPECT_EQ(locked.status, ReadStatus::Unreadable);
+        EXPECT_EQ(locked.reason, "Permission denied");
+        EXPECT_FALSE(locked.writable);
+        EXPECT_FALSE(saveTotal(folder_, 5.0f).saved);
+
+        ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), 0400), 0);
+        const ReadOutcome readOnly = readDataFile(folder_);
+        EXPECT_EQ(readOnly.status, ReadStatus::Read);
+        EXPECT_EQ(readOnly.total, 250.0f);
+        EXPECT_FALSE(readOnly.writable);
+
+        ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), 0600), 0);
+        struct stat before {};
+        ASSERT_EQ(::stat((folder_ / "mpdata.dat").c_str(), &before), 0);
+        ASSERT_EQ(::chmod(folder_.c_str(), 0500), 0);
+        const SaveOutcome inPlace = saveTotal(folder_, -3.75f);
+        EXPECT_TRUE(inPlace.saved) << inPlace.reason;
+        struct stat after {};
+        ASSERT_EQ(::stat((folder_ / "mpdata.dat").c_str(), &after), 0);
+        EXPECT_EQ(after.st_ino, before.st_ino);
+        EXPECT_EQ(fileContent(), "-3.75\r\n");
+        EXPECT_TRUE(strayEntries().empty());
+        ::chmod(folder_.c_str(), 0700);
+    });
 }
 
 TEST_F(DataFileFolder, MissingFolderIsReported) {

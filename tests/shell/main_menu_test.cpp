@@ -385,10 +385,7 @@ void MainMenuTest::unwritableFileIsReportedAndTheMenuStillCloses() {
     QTest::mouseClick(control<QPushButton>(*menu, "TTBtn"), Qt::LeftButton);
     QSignalSpy closed(menu.get(), &MainMenu::closed);
     QTest::mouseClick(control<QPushButton>(*menu, "ExBtn"), Qt::LeftButton);
-    QCOMPARE(warnings_.size(), 2);
-    QVERIFY2(warnings_[1].contains("could not be saved"), qPrintable(warnings_[1]));
-    QVERIFY2(warnings_[1].contains(path), qPrintable(warnings_[1]));
-    QVERIFY2(warnings_[1].contains("$20.00"), qPrintable(warnings_[1]));
+    QCOMPARE(warnings_.size(), 1); // the player was told once, at the load
     QVERIFY(!menu->isVisible());
     QCOMPARE(closed.count(), 1);
 }
@@ -407,7 +404,7 @@ void MainMenuTest::readOnlyFolderIsReported() {
     QCOMPARE(warnings_.size(), 1);
     QCOMPARE(control<QLineEdit>(*menu, "WinLoss")->text(), QString("$0.00"));
     QTest::mouseClick(control<QPushButton>(*menu, "ExBtn"), Qt::LeftButton);
-    QCOMPARE(warnings_.size(), 2);
+    QCOMPARE(warnings_.size(), 1);
     QVERIFY(!menu->isVisible());
 }
 

@@ -8,6 +8,8 @@
 // Marivale
 #include "engine/random_source.h"
 #include "shell/main_menu.h"
+#include "shell/quit_sequence.h"
+#include "shell/signal_bridge.h"
 #include "state/game_state.h"
 
 int main(int argc, char* argv[]) {
@@ -18,14 +20,36 @@ int main(int argc, char* argv[]) {
     // The program ends when the main menu has run its close sequence, not when a board closes
     // while the menu is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
+    // A logout, a shutdown or Ctrl+C closes the program as "E&xit" does, from the start on.
+    marivale::SignalBridge bridge;
+    bridge.watchSessionManager(app);
 
     marivale::GameState state{};
     marivale::applyStartupDefaults(state);
     marivale::ClockRandomSource random;
 
     marivale::MainMenu menu(state, random);
-    QObject::connect(&menu, &marivale::MainMenu::closed, &app, &QApplication::quit,
-                     Qt::QueuedConnection);
+    bool menuClosed = false;
+    QObject::connect(&menu, &marivale::MainMenu::closed, &app, [&menuClosed] {
+        menuClosed = true;
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    });
+    marivale::QuitSequence quit(menu, [&menu] { menu.close(); });
+    const auto closeUnattended = [&menu, &quit] {
+        menu.closeUnattended();
+        quit.start();
+    };
+    QObject::connect(&bridge, &marivale::SignalBridge::closeRequested, &app, closeUnattended);
+    if (bridge.requested()) {
+        closeUnattended();
+    }
+    // Should the program be told to quit some other way, the total is still written.
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &menu, [&menu, &menuClosed] {
+        if (!menuClosed) {
+            menu.closeUnattended();
+            menu.close();
+        }
+    });
     menu.show();
     return QApplication::exec();
 }

@@ -1,0 +1,211 @@
+// Closing for a logout: a signal received by this very process goes through the signal bridge
+// and closes the windows from the top down as their close boxes would, so that a board with
+// Double Up open settles and folds its visit before the main menu writes the total. A second
+// signal changes nothing.
+
+// Standard library
+#include <csignal>
+#include <functional>
+#include <memory>
+
+// Qt
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+// Marivale
+#include "shell/main_menu.h"
+#include "shell/quit_sequence.h"
+#include "shell/signal_bridge.h"
+
+namespace marivale {
+
+class LogoutCloseTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void signalClosesDoubleUpThenTheBoardThenTheMenu_data();
+    void signalClosesDoubleUpThenTheBoardThenTheMenu();
+    void signalClosesTheHelpScreenAndTheMenu();
+
+private:
+    QByteArray dataFile() const;
+
+    QTemporaryDir config_{};
+    std::unique_ptr<QTemporaryDir> folder_{};
+    QString programDirectory_{};
+};
+
+namespace {
+
+void click(QWidget& window, const char* name) {
+    auto* button = window.findChild<QAbstractButton*>(name);
+    QVERIFY2(button != nullptr && button->isEnabled(), name);
+    button->click();
+}
+
+QWidget* visibleTopLevel(const QString& name) {
+    for (QWidget* candidate : QApplication::topLevelWidgets()) {
+        if (candidate->objectName() == name && candidate->isVisible()) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+// Runs once the named window is up.
+void once(const QString& name, std::function<void(QWidget&)> then) {
+    QWidget* window = visibleTopLevel(name);
+    if (window == nullptr) {
+        QTimer::singleShot(10, [name, then] { once(name, then); });
+        return;
+    }
+    then(*window);
+}
+
+// The program's wiring: a signal marks the menu's close unattended and starts the sequence.
+struct LogoutWiring {
+    explicit LogoutWiring(MainMenu& menu) : quit(menu, [&menu] { menu.close(); }) {
+        QObject::connect(&bridge, &SignalBridge::closeRequested, &menu, [&menu, this] {
+            menu.closeUnattended();
+            quit.start();
+        });
+    }
+    SignalBridge bridge;
+    QuitSequence quit;
+};
+
+} // namespace
+
+void LogoutCloseTest::initTestCase() {
+    QVERIFY(config_.isValid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config_.path());
+    programDirectory_ = QDir::currentPath();
+}
+
+void LogoutCloseTest::init() {
+    folder_ = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder_->isValid());
+    const QDir program(programDirectory_);
+    for (const QString& name : program.entryList({"*.gif", "*.wav"}, QDir::Files)) {
+        QFile::link(program.absoluteFilePath(name), QDir(folder_->path()).filePath(name));
+    }
+    QVERIFY(QDir::setCurrent(folder_->path()));
+    QSettings("Vandrine", "Vandrine").clear();
+    QFile file("mpdata.dat");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("-12.5\r\n");
+}
+
+void LogoutCloseTest::cleanup() {
+    QDir::setCurrent(programDirectory_);
+    folder_.reset();
+}
+
+QByteArray LogoutCloseTest::dataFile() const {
+    QFile file("mpdata.dat");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+void LogoutCloseTest::signalClosesDoubleUpThenTheBoardThenTheMenu_data() {
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::newRow("SIGTERM, then SIGTERM") << SIGTERM << SIGTERM;
+    QTest::newRow("SIGHUP, then SIGINT") << SIGHUP << SIGINT;
+    QTest::newRow("SIGINT, then SIGTERM") << SIGINT << SIGTERM;
+}
+
+// Jacks or Better at $1 deals a heart flush ($5) and the player opens Double Up on it. The
+// signal closes Double Up as its close box does, which takes the $5; the board then folds
+// 19 + 5 credits against $20 bought: -12.5 + 4 = -8.5. Closing the board first would lose the
+// $5 and store -13.5.
+void LogoutCloseTest::signalClosesDoubleUpThenTheBoardThenTheMenu() {
+    QFETCH(int, first);
+    QFETCH(int, second);
+    GameState state{};
+    applyStartupDefaults(state);
+    ScriptedRandomSource random;
+    for (const int code : {27, 30, 34, 36, 38, 0}) {
+        random.pushIndex(code, 52);
+    }
+    MainMenu::Hooks hooks;
+    QStringList warnings;
+    hooks.warn = [&warnings](const QString& text) {
+        warnings.append(text);
+    };
+    MainMenu menu(state, random, hooks);
+    LogoutWiring wiring(menu);
+    QSignalSpy closed(&menu, &MainMenu::closed);
+    menu.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QTest::mouseClick(menu.findChild<QWidget*>("sbPanel1"), Qt::LeftButton);
+    QTest::mouseClick(menu.findChild<QRadioButton*>("PSettings2"), Qt::LeftButton);
+
+    bool doubleUpSeen = false;
+    QTimer::singleShot(0, [&] {
+        once("JBBoard", [&](QWidget& board) {
+            click(board, "Purchase");
+            click(board, "DrawDeal");
+            click(board, "Stand");
+            QTimer::singleShot(0, [&] {
+                QWidget* dup = QApplication::activeModalWidget();
+                doubleUpSeen = dup != nullptr && dup->objectName() == "frmDup";
+                std::raise(first);
+                std::raise(second);
+            });
+            click(board, "Stand"); // opens Double Up and returns once the board has settled
+        });
+    });
+    QTest::mouseClick(menu.findChild<QPushButton*>("JBBtn"), Qt::LeftButton);
+    QTRY_COMPARE(closed.count(), 1);
+    QVERIFY(doubleUpSeen);
+    QCOMPARE(dataFile(), QByteArray("-8.5\r\n"));
+    QVERIFY(!menu.isVisible());
+    QVERIFY(visibleTopLevel("JBBoard") == nullptr);
+    QVERIFY(QSettings("Vandrine", "Vandrine").contains("Settings/MainLeft"));
+    QVERIFY(warnings.isEmpty());
+    // Another signal after the close finds nothing more to do.
+    std::raise(SIGTERM);
+    QTest::qWait(50);
+    QCOMPARE(closed.count(), 1);
+}
+
+// The help screen over the menu is closed, then the menu writes the total it shows.
+void LogoutCloseTest::signalClosesTheHelpScreenAndTheMenu() {
+    GameState state{};
+    applyStartupDefaults(state);
+    ScriptedRandomSource random;
+    MainMenu menu(state, random);
+    LogoutWiring wiring(menu);
+    QSignalSpy closed(&menu, &MainMenu::closed);
+    menu.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QTest::mouseClick(menu.findChild<QPushButton*>("ClBtn"), Qt::LeftButton);
+    bool helpSeen = false;
+    QTimer::singleShot(0, [&] {
+        once("frmHelp", [&](QWidget&) {
+            helpSeen = true;
+            std::raise(SIGTERM);
+        });
+    });
+    QTest::mouseClick(menu.findChild<QPushButton*>("HpBtn"), Qt::LeftButton);
+    QTRY_COMPARE(closed.count(), 1);
+    QVERIFY(helpSeen);
+    QVERIFY(visibleTopLevel("frmHelp") == nullptr);
+    QCOMPARE(dataFile(), QByteArray("0\r\n"));
+}
+
+} // namespace marivale
+
+QTEST_MAIN(marivale::LogoutCloseTest)
+#include "logout_close_test.moc"

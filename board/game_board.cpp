@@ -327,7 +327,8 @@ void GameBoard::Impl::toggleStatistics() {
     if (x < screen.left()) {
         x = std::min(board.right() + 8, screen.right() - width);
     }
-    statsWindow_->move(std::max(x, screen.left()), std::max(board.top(), screen.top()));
+    const int y = std::min(board.top(), screen.bottom() - statsWindow_->frameGeometry().height());
+    statsWindow_->move(std::max(x, screen.left()), std::max(y, screen.top()));
     statsWindow_->show();
     statsWindow_->raise();
 }

@@ -2,7 +2,6 @@
 
 // Standard library
 #include <algorithm>
-#include <cmath>
 
 // Qt
 #include <QChart>
@@ -17,20 +16,6 @@ constexpr qreal kMarkerSize = 11.0;
 const QColor kLineColour(0, 96, 160);
 const QColor kPurchaseColour(0, 150, 60);
 const QColor kCashOutColour(200, 40, 40);
-
-// A round top for the dollar axis: 1, 2 or 5 times a power of ten, above the highest value.
-qreal niceTop(qreal highest) {
-    if (!(highest > 0.0)) {
-        return 10.0;
-    }
-    const qreal power = std::pow(10.0, std::floor(std::log10(highest)));
-    for (const qreal step : {1.0, 2.0, 5.0, 10.0}) {
-        if (step * power >= highest * 1.05) {
-            return step * power;
-        }
-    }
-    return 10.0 * power;
-}
 
 QScatterSeries* makeMarks(const QString& objectName, const QString& name, const QColor& colour,
                           QScatterSeries::MarkerShape shape, QObject* parent) {
@@ -107,7 +92,8 @@ void CreditChart::showVisit(const SessionStats& stats) {
     const int hands = static_cast<int>(credits.size());
     hands_->setRange(0, std::max(hands, 10));
     hands_->applyNiceNumbers();
-    dollars_->setRange(0, niceTop(highest));
+    dollars_->setRange(0, std::max<qreal>(highest * 1.05, 10.0));
+    dollars_->applyNiceNumbers();
 }
 
 } // namespace marivale

@@ -157,7 +157,7 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
             const int column = 1 + 2 * static_cast<int>(t);
             setCell(table, row, column, QString::number(came[t]));
             setCell(table, row, column + 1,
-                    probability ? QString::number(*probability * tallies[t]->drawn, 'f', 1)
+                    probability ? QString::number(*probability * tallies[t]->drawn, 'f', 2)
                                 : kComputing);
         }
     };

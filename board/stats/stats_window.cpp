@@ -44,8 +44,9 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     auto* tablesRow = new QHBoxLayout;
     summary_ = makeSummaryTable(this);
     frequencies_ = makeFrequencyTable(this);
-    tablesRow->addWidget(summary_, 0, Qt::AlignTop);
-    tablesRow->addWidget(frequencies_, 1, Qt::AlignTop);
+    tablesRow->addWidget(summary_, 0, Qt::AlignTop | Qt::AlignLeft);
+    tablesRow->addSpacing(12);
+    tablesRow->addWidget(frequencies_, 1, Qt::AlignTop | Qt::AlignLeft);
     layout->addLayout(tablesRow);
 
     tabs_ = new QTabWidget(this);
@@ -60,6 +61,9 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     history_->setObjectName(QStringLiteral("HandHistory"));
     history_->setModel(historyModel_);
     history_->verticalHeader()->hide();
+    history_->setWordWrap(false);
+    history_->verticalHeader()->setDefaultSectionSize(history_->fontMetrics().height() + 6);
+    history_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     history_->setSelectionBehavior(QAbstractItemView::SelectRows);
     history_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     history_->horizontalHeader()->setStretchLastSection(true);
@@ -77,7 +81,7 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);
     stats_.setListener([this] { scheduleRefresh(); });
     refresh();
-    resize(880, 720);
+    resize(900, 680);
 }
 
 StatsWindow::~StatsWindow() {

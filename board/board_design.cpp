@@ -7,10 +7,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 
 // Marivale
+#include "bonus/design_look.h"
 #include "bonus/twips.h"
 #include "engine/pay_table.h"
 
@@ -50,32 +52,67 @@ constexpr std::array<int, 3> kPayBoxWidths{1260, 1080, 900};
 
 constexpr qreal kTextPoints = 8.25;
 
-QString rgb(Rgb colour) {
-    return QStringLiteral("rgb(%1,%2,%3)").arg(colour.red).arg(colour.green).arg(colour.blue);
+QColor colour(Rgb rgb) {
+    return QColor(rgb.red, rgb.green, rgb.blue);
 }
 
-// The two schemes: board colour with white text, and black panels in the display colour.
-QString styleSheet(const GameVariant& v) {
-    const QString board = rgb(v.boardColour);
-    const QString display = rgb(v.displayColour);
-    return QStringLiteral(
-               "QDialog { background: %1; }"
-               "QLabel, QRadioButton, QGroupBox, QLineEdit { font-weight: bold; }"
-               "QLabel, QRadioButton { color: white; background: transparent; }"
-               "QGroupBox { color: white; border: 1px solid white; border-radius: 3px;"
-               " margin-top: 7px; }"
-               "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }"
-               "QLineEdit { background: %1; color: white; border: 1px solid white; }"
-               "QRadioButton::indicator { width: 9px; height: 9px; border-radius: 5px;"
-               " border: 1px solid white; background: %1; }"
-               "QRadioButton::indicator:checked { background: white; }"
-               "QFrame[scheme=\"display\"] { background: black; border: 1px solid #404040; }"
-               "QFrame[scheme=\"display\"] QLabel, QLabel[scheme=\"display\"] { color: %2;"
-               " background: black; border: none; }"
-               "QFrame[scheme=\"display\"] QLineEdit { background: black; color: %2;"
-               " border: 1px solid #505050; }")
-        .arg(board, display);
+// The two schemes: board colour with white text, and black panels in the display colour. Each is
+// set once on the widget that starts it and reaches the controls inside it.
+struct Schemes {
+    QPalette board;
+    QPalette boardField;
+    QPalette boardOption;
+    QPalette display;
+    QPalette displayField;
+};
+
+Schemes schemes(const GameVariant& v) {
+    const QColor board = colour(v.boardColour);
+    const QColor display = colour(v.displayColour);
+    Schemes s{designPalette(board, Qt::white), {}, {}, designPalette(Qt::black, display), {}};
+    s.board.setColor(QPalette::Base, board);
+    s.board.setColor(QPalette::Text, Qt::white);
+    // A field's outline is drawn a shade darker than its window colour.
+    s.boardField = s.board;
+    s.boardField.setColor(QPalette::Window, Qt::white);
+    s.boardOption = s.board;
+    s.boardOption.setColor(QPalette::Base, Qt::white);
+    s.boardOption.setColor(QPalette::Text, Qt::black);
+    s.display.setColor(QPalette::Base, Qt::black);
+    s.display.setColor(QPalette::Text, display);
+    s.displayField = s.display;
+    s.displayField.setColor(QPalette::Window, QColor(112, 112, 112));
+    return s;
 }
+
+// A frame with a white outline and its caption on the board colour, alike under every style.
+class DesignFrame final : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        const QFontMetrics metrics(font());
+        const int captionTop = metrics.height() / 2;
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, captionTop + 0.5, -0.5, -0.5), 3, 3);
+        const QRect caption = captionRect();
+        painter.fillRect(caption, palette().color(QPalette::Window));
+        painter.drawText(caption, Qt::AlignCenter | Qt::TextShowMnemonic, title());
+    }
+
+private:
+    // Where the caption is drawn: over the top line, a little in from the left.
+    QRect captionRect() const {
+        const QFontMetrics metrics(font());
+        return QRect(kCaptionLeft, 0, metrics.horizontalAdvance(title()) + 2 * kCaptionPad,
+                     metrics.height());
+    }
+
+    static constexpr int kCaptionLeft = 8;
+    static constexpr int kCaptionPad = 3;
+};
 
 template <typename W> W* place(W* widget, QWidget& parent, const char* name, TwipRect rect) {
     widget->setParent(&parent);
@@ -92,8 +129,9 @@ QLabel* label(QWidget& parent, const char* name, const QString& text, TwipRect r
     return l;
 }
 
-QLineEdit* field(QWidget& parent, const char* name, TwipRect rect) {
+QLineEdit* field(QWidget& parent, const char* name, TwipRect rect, const QPalette& scheme) {
     auto* f = place(new QLineEdit, parent, name, rect);
+    f->setPalette(scheme);
     f->setReadOnly(true);
     f->setFocusPolicy(Qt::NoFocus);
     f->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -104,14 +142,23 @@ QPushButton* button(QWidget& parent, const char* name, const char* caption, Twip
     return place(new QPushButton(QString::fromLatin1(caption)), parent, name, rect);
 }
 
-QFrame* panel(QWidget& parent, const char* name, TwipRect rect) {
+QFrame* panel(QWidget& parent, const char* name, TwipRect rect, const QPalette& display) {
     auto* frame = place(new QFrame, parent, name, rect);
-    frame->setProperty("scheme", "display");
+    frame->setPalette(display);
+    frame->setAutoFillBackground(true);
     return frame;
 }
 
-void buildPayTable(QDialog& window, const GameVariant& v, BoardWidgets& w) {
-    QFrame* frame = panel(window, "Frame1", kPayFrame);
+// A label of the board in the display scheme: the hold marks and the message line.
+QLabel* displayLabel(QWidget& parent, const char* name, TwipRect rect, const QPalette& display) {
+    QLabel* mark = label(parent, name, QString(), rect, Qt::AlignCenter);
+    mark->setPalette(display);
+    mark->setAutoFillBackground(true);
+    return mark;
+}
+
+void buildPayTable(QDialog& window, const GameVariant& v, const Schemes& s, BoardWidgets& w) {
+    QFrame* frame = panel(window, "Frame1", kPayFrame, s.display);
     const PayTable& table = payTable(v.game);
     for (int row = 0; row < kPayRows; ++row) {
         const int top = 90 + row * 300;
@@ -119,68 +166,69 @@ void buildPayTable(QDialog& window, const GameVariant& v, BoardWidgets& w) {
         const QString captionName = QStringLiteral("PayLabel%1").arg(row);
         w.payCaptions[row] = label(
             *frame, "", QString::fromLatin1(table[row].caption.data(), table[row].caption.size()),
-            {90, top, 1860, 270});
+            {90, top, 1770, 270});
         w.payCaptions[row]->setObjectName(captionName);
-        w.payBoxes[row] = field(*frame, "", {kPayFrame.width - 90 - boxWidth, top, boxWidth, 270});
+        w.payBoxes[row] = field(*frame, "", {kPayFrame.width - 90 - boxWidth, top, boxWidth, 270},
+                                s.displayField);
         w.payBoxes[row]->setObjectName(
             QString::fromLatin1(table[row].box.data(), static_cast<int>(table[row].box.size())));
     }
 }
 
-void buildPurchase(QDialog& window, BoardWidgets& w) {
-    auto* frame = place(new QGroupBox(QStringLiteral("Credits")), window, "Frame2", kCreditsFrame);
+void buildPurchase(QDialog& window, const Schemes& s, BoardWidgets& w) {
+    auto* frame =
+        place(new DesignFrame(QStringLiteral("Credits")), window, "Frame2", kCreditsFrame);
     for (int i = 0; i < 8; ++i) {
         const TwipRect rect{i < 4 ? 240 : 1740, 360 + (i % 4) * 360, 1380, 300};
         auto* option =
             place(new QRadioButton(QString::fromLatin1(kPurchaseCaptions[i])), *frame, "", rect);
         option->setObjectName(QStringLiteral("POption%1").arg(i));
+        option->setPalette(s.boardOption);
         w.purchaseOptions[i] = option;
     }
     w.purchaseOptions[4]->setChecked(true);
     w.purchase = button(*frame, "Purchase", "&Purchase", {870, 1860, 1500, 420});
 }
 
-void buildPanels(QDialog& window, BoardWidgets& w) {
-    QFrame* credit = panel(window, "Frame3", kCreditPanel);
+void buildPanels(QDialog& window, const Schemes& s, BoardWidgets& w) {
+    QFrame* credit = panel(window, "Frame3", kCreditPanel, s.display);
     label(*credit, "CreditLabel", QStringLiteral("Credit"), {60, 30, 1680, 270}, Qt::AlignCenter);
-    w.credit = field(*credit, "Credit", {60, 330, 1680, 300});
-    QFrame* bet = panel(window, "Frame4", kBetPanel);
+    w.credit = field(*credit, "Credit", {60, 330, 1680, 300}, s.displayField);
+    QFrame* bet = panel(window, "Frame4", kBetPanel, s.display);
     label(*bet, "BetLabel", QStringLiteral("Bet"), {60, 60, 600, 300});
-    w.bet = field(*bet, "Bet", {720, 60, 1020, 300});
-    QFrame* results = panel(window, "Frame5", kResultsPanel);
+    w.bet = field(*bet, "Bet", {720, 60, 1020, 300}, s.displayField);
+    QFrame* results = panel(window, "Frame5", kResultsPanel, s.display);
     label(*results, "ResultsLabel", QStringLiteral("Results"), {60, 30, 1680, 270},
           Qt::AlignCenter);
     label(*results, "WinLabel", QStringLiteral("Win"), {60, 360, 480, 300});
-    w.win = field(*results, "Win", {600, 360, 1140, 300});
+    w.win = field(*results, "Win", {600, 360, 1140, 300}, s.displayField);
     label(*results, "LastLabel", QStringLiteral("Last"), {60, 720, 480, 300});
-    w.last = field(*results, "Last", {600, 720, 1140, 300});
+    w.last = field(*results, "Last", {600, 720, 1140, 300}, s.displayField);
 }
 
-void buildCards(QDialog& window, BoardWidgets& w) {
+void buildCards(QDialog& window, const Schemes& s, BoardWidgets& w) {
     for (int p = 0; p < 5; ++p) {
         const int left = kCardLeft + p * kCardStep;
-        w.holdMarks[p] = label(window, "", QString(), {left, kHoldTop, kCardWidth, kHoldHeight},
-                               Qt::AlignCenter);
+        w.holdMarks[p] =
+            displayLabel(window, "", {left, kHoldTop, kCardWidth, kHoldHeight}, s.display);
         w.holdMarks[p]->setObjectName(QStringLiteral("Card%1Ind").arg(p));
-        w.holdMarks[p]->setProperty("scheme", "display");
         w.cards[p] = button(window, "", "", {left, kCardTop, kCardWidth, kCardHeight});
         w.cards[p]->setObjectName(QStringLiteral("Card%1").arg(p));
     }
     w.stand = button(window, "Stand", "&Cash Out", kStand);
-    w.output = label(window, "Output2", QString(), kOutput, Qt::AlignCenter);
-    w.output->setProperty("scheme", "display");
+    w.output = displayLabel(window, "Output2", kOutput, s.display);
     w.drawDeal = button(window, "DrawDeal", "&Deal", kDrawDeal);
 }
 
-void buildStatistics(QDialog& window, BoardWidgets& w) {
+void buildStatistics(QDialog& window, const Schemes& s, BoardWidgets& w) {
     auto* frame =
-        place(new QGroupBox(QStringLiteral("Play Statistics")), window, "Frame6", kStatsFrame);
+        place(new DesignFrame(QStringLiteral("Play Statistics")), window, "Frame6", kStatsFrame);
     label(*frame, "PurchasedLabel", QStringLiteral("Credits Purchased"), {120, 420, 1920, 300});
-    w.totPurchased = field(*frame, "TotPurchased", {2100, 390, 1320, 330});
+    w.totPurchased = field(*frame, "TotPurchased", {2100, 390, 1320, 330}, s.boardField);
     label(*frame, "WinningsLabel", QStringLiteral("Winnings"), {3600, 420, 1020, 300});
-    w.totWinGame = field(*frame, "TotWinGame", {4680, 390, 1320, 330});
+    w.totWinGame = field(*frame, "TotWinGame", {4680, 390, 1320, 330}, s.boardField);
     w.plTitle = label(*frame, "PLTitle", QStringLiteral("Net Winnings"), {6180, 420, 1380, 300});
-    w.profLoss = field(*frame, "ProfLoss", {7620, 390, 1320, 330});
+    w.profLoss = field(*frame, "ProfLoss", {7620, 390, 1320, 330}, s.boardField);
 }
 
 } // namespace
@@ -191,28 +239,27 @@ BoardWidgets buildBoard(QDialog& window, const GameVariant& v) {
     window.setWindowTitle(QString::fromLatin1(v.windowCaption.data(), v.windowCaption.size()));
     window.setFixedSize(kBoardWidthTwips / kTwipsPerPixel, kBoardHeightTwips / kTwipsPerPixel);
     window.setFont(designFont(kTextPoints, true));
-    window.setStyleSheet(styleSheet(v));
+    const Schemes s = schemes(v);
+    window.setPalette(s.board);
 
     w.title = label(window, "Label1", QString::fromLatin1(v.title.data(), v.title.size()), kTitle,
                     Qt::AlignCenter);
-    QFont titleFont = designFont(24, true);
-    titleFont.setItalic(true);
-    w.title->setFont(titleFont);
+    w.title->setFont(designFont(24, true, true));
     if (!v.noteName.empty()) {
         w.note = label(window, "", QString::fromLatin1(v.noteText.data(), v.noteText.size()), kNote,
                        Qt::AlignCenter);
         w.note->setObjectName(QString::fromLatin1(v.noteName.data(), v.noteName.size()));
         w.note->setFont(designFont(12, true));
     }
-    buildPayTable(window, v, w);
-    buildPurchase(window, w);
+    buildPayTable(window, v, s, w);
+    buildPurchase(window, s, w);
     w.help = button(window, "Help", "&Help", kHelp);
     w.exit = button(window, "Exit", "E&xit", kExit);
-    buildPanels(window, w);
+    buildPanels(window, s, w);
     w.betUp = button(window, "BetUp", "Bet &Up", kBetUp);
     w.betDn = button(window, "BetDn", "Bet D&n", kBetDn);
-    buildCards(window, w);
-    buildStatistics(window, w);
+    buildCards(window, s, w);
+    buildStatistics(window, s, w);
     return w;
 }
 

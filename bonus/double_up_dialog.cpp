@@ -6,6 +6,7 @@
 
 // Marivale
 #include "board/card_pictures.h"
+#include "bonus/design_look.h"
 #include "bonus/twips.h"
 #include "bonus/wrap_button.h"
 #include "engine/bonus_games.h"
@@ -43,10 +44,7 @@ void DoubleUpDialog::buildWindow() {
                    Qt::MSWindowsFixedSizeDialogHint);
     setFixedSize(fromTwips(kWindow).size());
     setFont(designFont(8.25, true));
-    QPalette yellow = palette();
-    yellow.setColor(QPalette::Window, QColor(255, 255, 0));
-    yellow.setColor(QPalette::WindowText, Qt::black);
-    setPalette(yellow);
+    setPalette(designPalette(QColor(255, 255, 0), Qt::black));
     setAutoFillBackground(true);
 
     title_ = new QLabel(QStringLiteral("Double Up"), this);

@@ -12,6 +12,7 @@
 #include <QPushButton>
 
 // Marivale
+#include "bonus/design_look.h"
 #include "bonus/twips.h"
 #include "engine/bonus_games.h"
 #include "engine/money_format.h"
@@ -91,10 +92,7 @@ void TreasureHuntDialog::buildWindow() {
                    Qt::MSWindowsFixedSizeDialogHint);
     setFixedSize(fromTwips(kWindow).size());
     setFont(designFont(8.25, true));
-    QPalette blue = palette();
-    blue.setColor(QPalette::Window, QColor(0, 0, 192));
-    blue.setColor(QPalette::WindowText, Qt::white);
-    setPalette(blue);
+    setPalette(designPalette(QColor(0, 0, 192), Qt::white));
     setAutoFillBackground(true);
 
     title_ = new QLabel(QStringLiteral("Treasure Hunt"), this);

@@ -1,10 +1,8 @@
 #pragma once
 
-// Design measures of the bonus windows: places in twips (15 to the pixel at 96 dots per inch)
-// and the sans-serif face of their texts.
+// Design places of the windows, in twips (15 to the pixel at 96 dots per inch).
 
 // Qt
-#include <QFont>
 #include <QRect>
 
 namespace marivale {
@@ -21,14 +19,6 @@ struct TwipRect {
 constexpr QRect fromTwips(TwipRect rect) {
     return QRect(rect.left / kTwipsPerPixel, rect.top / kTwipsPerPixel, rect.width / kTwipsPerPixel,
                  rect.height / kTwipsPerPixel);
-}
-
-inline QFont designFont(qreal pointSize, bool bold) {
-    QFont font(QStringLiteral("Sans Serif"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPointSizeF(pointSize);
-    font.setBold(bold);
-    return font;
 }
 
 } // namespace marivale

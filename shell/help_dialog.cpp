@@ -11,6 +11,9 @@
 #include <QLabel>
 #include <QPushButton>
 
+// Marivale
+#include "bonus/design_look.h"
+
 namespace marivale {
 
 namespace {
@@ -67,15 +70,12 @@ constexpr int kHeadingGap = 6; // extra space above a heading
 constexpr int kMaxLineGap = 5; // most space added between two items
 constexpr QSize kButtonSize{81, 25};
 
-// Widths to try, widest first: the page was laid out for a narrow face, so a wider one is
-// condensed (where the system has a condensed cut) until each line fits on one row.
-constexpr std::array<int, 3> kStretches{QFont::Unstretched, QFont::SemiCondensed, QFont::Condensed};
+// Widths to try, widest first: the page was laid out for a narrower face than the design face,
+// so the face is condensed until each line fits on one row.
+constexpr std::array<int, 4> kStretches{QFont::Unstretched, 95, 90, QFont::SemiCondensed};
 
 QFont pageFont(bool bold, int stretch) {
-    QFont font(QStringLiteral("Sans Serif"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPointSizeF(8.25);
-    font.setBold(bold);
+    QFont font = designFont(8.25, bold);
     font.setStretch(stretch);
     return font;
 }
@@ -111,10 +111,7 @@ HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
     const int width = kPageSize.width() - 2 * kMargin;
     const int stretch = fittingStretch(width);
     setFont(pageFont(false, stretch));
-    QPalette white = palette();
-    white.setColor(QPalette::Window, Qt::white);
-    white.setColor(QPalette::WindowText, Qt::black);
-    setPalette(white);
+    setPalette(designPalette(Qt::white, Qt::black));
     setAutoFillBackground(true);
 
     // Each item takes the height its text needs; the room left above the button is shared out

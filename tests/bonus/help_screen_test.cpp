@@ -96,7 +96,8 @@ void HelpScreenTest::labelTexts() {
     QVERIFY(label != nullptr);
     QCOMPARE(label->text(), text);
     QCOMPARE(label->font().bold(), heading);
-    QCOMPARE(label->font().pointSizeF(), 8.25);
+    QCOMPARE(label->font().family(), QStringLiteral("Liberation Sans"));
+    QCOMPARE(label->font().pixelSize(), 11); // 8.25 points at 96 dots per inch
     QCOMPARE(bool(label->alignment() & Qt::AlignHCenter), centred);
 }
 

@@ -71,6 +71,27 @@ TEST(GameOdds, PublishedTablesReturnAndHitFrequencies) {
     }
 }
 
+// Tenths of a bet are not exact in binary: the best holds, and so the frequencies, must not
+// change with the rounding, while the return scales by a tenth and the variance by a hundredth.
+TEST(GameOdds, ScalingEveryPayKeepsThePlay) {
+    SKIP_UNLESS_OPTIMISED();
+    const PublishedGame& jacks = kPublished[0];
+    std::array<double, 9> tenths{};
+    for (std::size_t i = 0; i < tenths.size(); ++i) {
+        tenths[i] = jacks.multipliers[i] / 10.0;
+    }
+    const auto& tables = odds::DrawTables::forGame(GameId::JacksOrBetter);
+    const auto whole = odds::analyzeGame(
+        tables, *odds::payScaleFromMultipliers(
+                    GameId::JacksOrBetter, std::span<const double>(jacks.multipliers.data(), 9)));
+    const auto scaled =
+        odds::analyzeGame(tables, *odds::payScaleFromMultipliers(GameId::JacksOrBetter, tenths));
+    ASSERT_TRUE(whole && scaled);
+    EXPECT_EQ(scaled->codeProbability, whole->codeProbability);
+    EXPECT_NEAR(scaled->expectedReturn, whole->expectedReturn / 10.0, 1e-12);
+    EXPECT_NEAR(scaled->variance, whole->variance / 100.0, 1e-12);
+}
+
 struct OwnTable {
     GameId game;
     double expectedReturn; // with the best strategy, to eight places

@@ -1,7 +1,6 @@
 #include "board/game_board.h"
 
 // Standard library
-#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -13,13 +12,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QTimer>
 
 // Marivale
 #include "board/advisor/strategy_window.h"
 #include "board/bell.h"
 #include "board/board_design.h"
+#include "board/board_keys.h"
 #include "board/card_pictures.h"
 #include "board/play_controller.h"
 #include "board/stats/session_stats.h"
@@ -43,7 +42,7 @@ public:
           controller_(variant, state, random, *this) {
         mapControls();
         connectClicks();
-        prepareKeys();
+        prepareBoardKeys(window_, widgets_);
         controller_.setObserver(&stats_);
         controller_.load();
     }
@@ -68,12 +67,11 @@ public:
     void toggleStrategy();
     void toggleStatistics();
     // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
-    bool playKey(const QKeyEvent& event);
+    bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event); }
 
 private:
     void mapControls();
     void connectClicks();
-    void prepareKeys();
     void checkPictures();
 
     GameBoard& window_;
@@ -135,41 +133,6 @@ void GameBoard::Impl::connectClicks() {
         QObject::connect(w.cards[p], &QPushButton::clicked, &window_,
                          [c, p] { c->cardClicked(p); });
     }
-}
-
-// Enter belongs to the board, never to the button that has the focus, so no button is a default
-// one; the cards and DrawDeal name their keys.
-void GameBoard::Impl::prepareKeys() {
-    for (QPushButton* button : window_.findChildren<QPushButton*>()) {
-        button->setAutoDefault(false);
-        button->setDefault(false);
-    }
-    for (int p = 0; p < 5; ++p) {
-        widgets_.cards[p]->setToolTip(
-            QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));
-    }
-    widgets_.drawDeal->setToolTip(
-        QStringLiteral("Click or press Enter to deal, draw or take the score"));
-}
-
-bool GameBoard::Impl::playKey(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    if (modifiers != Qt::NoModifier) {
-        return false;
-    }
-    QPushButton* target = nullptr;
-    if (event.key() >= Qt::Key_1 && event.key() <= Qt::Key_5) {
-        target = widgets_.cards[static_cast<std::size_t>(event.key() - Qt::Key_1)];
-    } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
-        target = widgets_.drawDeal;
-    } else {
-        return false;
-    }
-    // A held key repeats; only the press itself plays.
-    if (!event.isAutoRepeat() && target->isEnabled() && target->isVisible()) {
-        target->click();
-    }
-    return true;
 }
 
 void GameBoard::Impl::setText(Control control, std::string_view text) {
@@ -319,16 +282,7 @@ void GameBoard::Impl::toggleStatistics() {
         statsWindow_->hide();
         return;
     }
-    // Left of the board when there is room, else right of it, always on the board's screen.
-    const QRect board = window_.frameGeometry();
-    const QRect screen = window_.screen()->availableGeometry();
-    const int width = statsWindow_->frameGeometry().width();
-    int x = board.left() - width - 8;
-    if (x < screen.left()) {
-        x = std::min(board.right() + 8, screen.right() - width);
-    }
-    const int y = std::min(board.top(), screen.bottom() - statsWindow_->frameGeometry().height());
-    statsWindow_->move(std::max(x, screen.left()), std::max(y, screen.top()));
+    placeBeside(*statsWindow_, window_);
     statsWindow_->show();
     statsWindow_->raise();
 }

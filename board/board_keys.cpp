@@ -1,0 +1,62 @@
+#include "board/board_keys.h"
+
+// Standard library
+#include <algorithm>
+
+// Qt
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+
+namespace marivale {
+namespace {
+
+constexpr int kGap = 8;
+
+} // namespace
+
+void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
+    for (QPushButton* button : board.findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+    for (int p = 0; p < 5; ++p) {
+        widgets.cards[static_cast<std::size_t>(p)]->setToolTip(
+            QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));
+    }
+    widgets.drawDeal->setToolTip(
+        QStringLiteral("Click or press Enter to deal, draw or take the score"));
+}
+
+bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers != Qt::NoModifier) {
+        return false;
+    }
+    QPushButton* target = nullptr;
+    if (event.key() >= Qt::Key_1 && event.key() <= Qt::Key_5) {
+        target = widgets.cards[static_cast<std::size_t>(event.key() - Qt::Key_1)];
+    } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        target = widgets.drawDeal;
+    } else {
+        return false;
+    }
+    if (!event.isAutoRepeat() && target->isEnabled() && target->isVisible()) {
+        target->click();
+    }
+    return true;
+}
+
+void placeBeside(QWidget& companion, const QWidget& board) {
+    const QRect outer = board.frameGeometry();
+    const QRect screen = board.screen()->availableGeometry();
+    const QSize size = companion.frameGeometry().size();
+    int x = outer.left() - size.width() - kGap;
+    if (x < screen.left()) {
+        x = std::min(outer.right() + kGap, screen.right() - size.width());
+    }
+    const int y = std::min(outer.top(), screen.bottom() - size.height());
+    companion.move(std::max(x, screen.left()), std::max(y, screen.top()));
+}
+
+} // namespace marivale

@@ -1,0 +1,27 @@
+#pragma once
+
+// The keyboard of a board: 1 to 5 (top row or keypad) hold as a click on Card0..Card4 does,
+// Enter, Return and the keypad's Enter act as a click on DrawDeal. Enter belongs to the board,
+// never to whichever button has the focus. And the place of a companion window beside a board.
+
+// Marivale
+#include "board/board_design.h"
+
+class QKeyEvent;
+class QWidget;
+
+namespace marivale {
+
+// Makes no board button a default one, so Enter reaches the board, and names the keys in the
+// tooltips of the cards and DrawDeal.
+void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets);
+
+// Plays a key as the click it stands for; true when the key is one of the board's. A disabled
+// or hidden control stays deaf, and a key held down plays only once.
+bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event);
+
+// Puts a companion window left of the board when there is room, else right of it, always whole
+// on the board's screen.
+void placeBeside(QWidget& companion, const QWidget& board);
+
+} // namespace marivale

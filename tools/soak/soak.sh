@@ -1,0 +1,349 @@
+#!/usr/bin/env bash
+# Soaks the real program: runs it on a private X display (Xvfb with openbox) for a given time,
+# restarting it whenever it exits, and plays it like a careless player: random clicks anywhere
+# in whatever window is on top, random keys (access keys, Enter, Escape, Tab, Alt+F4, F2), close
+# boxes, minimising and maximising the main menu, and now and then a signal (SIGTERM, SIGHUP,
+# SIGINT, sometimes two at once). Run with --help for the options.
+#
+# It counts:
+#   crashes    runs that ended with a non-zero status the soak did not cause
+#   hangs      moments when no window of the program took input for 5 s (input is checked by
+#              pressing Shift and watching the window's _NET_WM_USER_TIME, which the toolkit
+#              updates only while its event loop runs), or a signal that did not end the run
+#              within 15 s
+#   malformed  data files that are anything but one well-formed record after a run
+# and exits with status 1 when any of the three is not zero.
+set -uo pipefail
+
+usage() {
+    cat <<'EOF'
+Usage: tools/soak/soak.sh [options]
+
+Runs the real program on a private Xvfb display with openbox for a given time, restarting it
+whenever it exits, while clicking, typing, closing, minimising, maximising and signalling it at
+random. Reports minutes, actions, runs, crashes, hangs and malformed data files; exits 1 when
+there was any crash, hang or malformed file.
+
+Options:
+  --minutes N     how long to play (default 30; fractions such as 0.5 are fine)
+  --program PATH  the program (default: build/bin/marivale-poker of this repository); its folder
+                  must hold the card pictures and the bell, which are linked into a private
+                  working folder
+  --display :N    the X display to create (default :77); it must be free
+  --seed N        seed of the random choices (default: the current time), to replay a soak
+  --out DIR       where the working folder, logs and report go (default: a new folder in /tmp)
+  --help          this text
+
+Example, the Release and the sanitizer builds at once, in the background:
+  nohup tools/soak/soak.sh --minutes 30 --program build/bin/marivale-poker --display :81 \
+      --out /tmp/soak-release >/tmp/soak-release.log 2>&1 &
+  nohup tools/soak/soak.sh --minutes 10 --program build-asan/bin/marivale-poker --display :82 \
+      --out /tmp/soak-asan >/tmp/soak-asan.log 2>&1 &
+EOF
+}
+
+repo="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+minutes=30
+program="$repo/build/bin/marivale-poker"
+display=":77"
+seed="$(date +%s)"
+out=""
+while (($#)); do
+    case "$1" in
+    --minutes) minutes="$2"; shift 2 ;;
+    --program) program="$2"; shift 2 ;;
+    --display) display="$2"; shift 2 ;;
+    --seed) seed="$2"; shift 2 ;;
+    --out) out="$2"; shift 2 ;;
+    --help | -h) usage; exit 0 ;;
+    *) echo "unknown option: $1 (try --help)" >&2; exit 2 ;;
+    esac
+done
+for tool in Xvfb openbox xdotool xprop xwininfo; do
+    command -v "$tool" >/dev/null || { echo "soak: $tool is missing (tools/install-deps.sh)" >&2; exit 2; }
+done
+program="$(cd "$(dirname "$program")" && pwd)/$(basename "$program")"
+[ -x "$program" ] || { echo "soak: no program at $program" >&2; exit 2; }
+[ -n "$out" ] || out="$(mktemp -d /tmp/marivale-soak.XXXXXX)"
+mkdir -p "$out"
+out="$(cd "$out" && pwd)"
+RANDOM=$((seed % 32768))
+
+work="$out/work"
+logs="$out/logs"
+mkdir -p "$work" "$logs" "$out/home/.config" "$out/runtime"
+chmod 700 "$out/runtime"
+for media in "$(dirname "$program")"/*.gif "$(dirname "$program")"/*.wav; do
+    [ -e "$media" ] && ln -sf "$media" "$work/"
+done
+export HOME="$out/home" XDG_CONFIG_HOME="$out/home/.config" XDG_RUNTIME_DIR="$out/runtime"
+export DISPLAY="$display" ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
+unset QT_QPA_PLATFORM
+
+log() { echo "[soak $(date +%H:%M:%S)] $*" | tee -a "$out/events.log" >&2; }
+
+xvfb_pid=""
+wm_pid=""
+app_pid=""
+cleanup() {
+    [ -n "$app_pid" ] && kill -KILL "$app_pid" 2>/dev/null
+    [ -n "$wm_pid" ] && kill "$wm_pid" 2>/dev/null
+    [ -n "$xvfb_pid" ] && kill "$xvfb_pid" 2>/dev/null
+    wait 2>/dev/null
+}
+trap cleanup EXIT
+
+Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp >"$logs/xvfb.log" 2>&1 &
+xvfb_pid=$!
+for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
+xdpyinfo >/dev/null 2>&1 || { echo "soak: Xvfb did not start on $display" >&2; exit 2; }
+openbox >"$logs/openbox.log" 2>&1 &
+wm_pid=$!
+sleep 1
+
+actions=0
+runs=0
+crashes=0
+hangs=0
+malformed=0
+run_log=""
+caused=""        # set when the soak itself ended the run (after a hang)
+last_input=$SECONDS
+signals=0
+probes=0
+declare -A seen=()   # how many actions each window title was on top for
+grace=0          # seconds a starting run may take before its first window counts as a hang
+record_re=$'^-?[0-9]+(\\.[0-9]+)?(E[+-][0-9]+)?\r\n$'
+access_keys=(a b c d e f g h i j k l m n o p q r s t u v w x y z)
+plain_keys=(Return Return Escape Tab shift+Tab space F2 F2 alt+F4 alt+F4 Up Down Left Right 1 5)
+
+# Whether the data file is exactly one well-formed record.
+check_data_file() {
+    local file="$work/mpdata.dat" content
+    if [ ! -f "$file" ]; then
+        malformed=$((malformed + 1))
+        log "MALFORMED after run $runs: there is no data file"
+        return
+    fi
+    content="$(cat "$file"; printf x)"
+    content="${content%x}"
+    if ! [[ $content =~ $record_re ]]; then
+        malformed=$((malformed + 1))
+        cp "$file" "$logs/malformed-$runs.dat"
+        log "MALFORMED after run $runs: $(od -c "$file" | head -3 | tr '\n' ' ')"
+    fi
+}
+
+start_run() {
+    runs=$((runs + 1))
+    run_log="$logs/run-$runs.log"
+    caused=""
+    (cd "$work" && exec "$program") >"$run_log" 2>&1 &
+    app_pid=$!
+    last_input=$SECONDS
+    grace=20
+}
+
+# Collects an ended run: its status, then the data file it left.
+end_run() {
+    local status=0
+    wait "$app_pid" 2>/dev/null
+    status=$?
+    if [ "$status" -ne 0 ] && [ -z "$caused" ]; then
+        crashes=$((crashes + 1))
+        cp "$run_log" "$logs/crash-$runs.log"
+        log "CRASH in run $runs: status $status (log: $logs/crash-$runs.log)"
+    fi
+    [ "$status" -eq 0 ] && rm -f "$run_log"
+    app_pid=""
+    check_data_file
+}
+
+running() { [ -n "$app_pid" ] && kill -0 "$app_pid" 2>/dev/null; }
+
+# The program's top-level windows, bottom to top.
+program_windows() {
+    local list id
+    list="$(xprop -root _NET_CLIENT_LIST_STACKING 2>/dev/null | sed -e 's/.*# //' -e 's/,/ /g')"
+    for id in $list; do
+        [[ $id == 0x* ]] || continue
+        if xprop -id "$id" _NET_WM_PID 2>/dev/null | grep -q "= $app_pid\$"; then
+            echo "$id"
+        fi
+    done
+}
+
+viewable() { xwininfo -id "$1" 2>/dev/null | grep -q "Map State: IsViewable"; }
+
+# The topmost window of the program that is shown; empty when none is.
+top_window() {
+    local id top=""
+    for id in $(program_windows); do
+        viewable "$id" && top="$id"
+    done
+    echo "$top"
+}
+
+# The main menu, shown or minimised.
+menu_window() {
+    local id
+    for id in $(program_windows); do
+        if xprop -id "$id" WM_NAME 2>/dev/null | grep -q '"Marivale Poker"'; then
+            echo "$id"
+            return
+        fi
+    done
+}
+
+user_times() {
+    local id
+    for id in $(program_windows); do
+        xprop -id "$id" _NET_WM_USER_TIME 2>/dev/null | awk '{print $NF}'
+    done | tr '\n' ' '
+}
+
+# Left, top, width and height of a window's frame, title bar included.
+frame_of() {
+    local x y w h extents left right top X=0 Y=0 WIDTH=0 HEIGHT=0
+    eval "$(xdotool getwindowgeometry --shell "$1" 2>/dev/null | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+    extents="$(xprop -id "$1" _NET_FRAME_EXTENTS 2>/dev/null | sed -e 's/.*= //' -e 's/,//g')"
+    read -r left right top _ <<<"${extents:-0 0 0 0}"
+    x=$((X - left)) y=$((Y - top)) w=$((WIDTH + left + right)) h=$((HEIGHT + top))
+    echo "$x $y $w $h $top"
+}
+
+# Presses Shift for the top window and waits up to 5 s for the toolkit to take it.
+probe_input() {
+    local top="$1" before after
+    probes=$((probes + 1))
+    before="$(user_times)"
+    xdotool windowfocus "$top" 2>/dev/null
+    xdotool key shift 2>/dev/null
+    for _ in $(seq 50); do
+        running || return 0
+        [ -n "$(top_window)" ] || return 0
+        after="$(user_times)"
+        [ "$after" != "$before" ] && { last_input=$SECONDS; return 0; }
+        sleep 0.1
+    done
+    hangs=$((hangs + 1))
+    log "HANG in run $runs: the top window $top took no input for 5 s"
+    import -window root "$logs/hang-$runs.png" 2>/dev/null
+    caused=1
+    kill -KILL "$app_pid" 2>/dev/null
+}
+
+click_in() {
+    local x y w h t
+    read -r x y w h t <<<"$(frame_of "$1")"
+    ((w > 4 && h > t + 4)) || return
+    xdotool mousemove $((x + 2 + RANDOM % (w - 4))) $((y + t + RANDOM % (h - t - 2))) click 1 2>/dev/null
+}
+
+# Clicks a title-bar button, counted from the right: 0 close, 1 maximise, 2 minimise.
+title_button() {
+    local x y w h t
+    read -r x y w h t <<<"$(frame_of "$1")"
+    ((t > 0)) || return
+    xdotool mousemove $((x + w - 10 - 16 * $2)) $((y + t / 2)) click 1 2>/dev/null
+}
+
+send_signal() {
+    local names=(TERM HUP INT) name
+    name="${names[RANDOM % 3]}"
+    signals=$((signals + 1))
+    kill -"$name" "$app_pid" 2>/dev/null
+    ((RANDOM % 4 == 0)) && kill -"${names[RANDOM % 3]}" "$app_pid" 2>/dev/null
+    for _ in $(seq 150); do
+        running || return 0
+        sleep 0.1
+    done
+    hangs=$((hangs + 1))
+    log "HANG in run $runs: SIG$name did not end the program within 15 s"
+    import -window root "$logs/hang-$runs.png" 2>/dev/null
+    caused=1
+    kill -KILL "$app_pid" 2>/dev/null
+}
+
+act() {
+    local top menu roll title
+    top="$(top_window)"
+    if [ -z "$top" ]; then
+        menu="$(menu_window)"
+        if [ -n "$menu" ]; then
+            # Only the minimised menu is left: the player brings it back from the task bar.
+            xdotool windowactivate "$menu" 2>/dev/null
+            last_input=$SECONDS
+        elif ((SECONDS - last_input > 5 + grace)) && running; then
+            hangs=$((hangs + 1))
+            log "HANG in run $runs: no window of the program for 5 s"
+            caused=1
+            kill -KILL "$app_pid" 2>/dev/null
+        fi
+        sleep 0.1
+        return
+    fi
+    actions=$((actions + 1))
+    grace=0
+    title="$(xprop -id "$top" WM_NAME 2>/dev/null | sed -n 's/.*= "\(.*\)"$/\1/p')"
+    seen["${title:-?}"]=$((${seen["${title:-?}"]:-0} + 1))
+    roll=$((RANDOM % 100))
+    if ((roll < 45)); then
+        click_in "$top"
+    elif ((roll < 58)); then
+        xdotool key "alt+${access_keys[RANDOM % ${#access_keys[@]}]}" 2>/dev/null
+    elif ((roll < 78)); then
+        xdotool key "${plain_keys[RANDOM % ${#plain_keys[@]}]}" 2>/dev/null
+    elif ((roll < 84)); then
+        title_button "$top" 0
+    elif ((roll < 89)); then
+        menu="$(menu_window)"
+        [ -n "$menu" ] && viewable "$menu" && xdotool windowminimize "$menu" 2>/dev/null
+    elif ((roll < 94)); then
+        menu="$(menu_window)"
+        [ -n "$menu" ] && viewable "$menu" && title_button "$menu" 1
+    elif ((roll < 99)); then
+        probe_input "$top"
+    else
+        send_signal
+    fi
+    ((actions % 10 == 0)) && running && probe_input "$top"
+    sleep 0.0$((RANDOM % 10))
+}
+
+log "soak of $program for $minutes min on $display, seed $seed, output in $out"
+end=$((SECONDS + $(awk -v m="$minutes" 'BEGIN { printf "%d", m * 60 }')))
+start_run
+while ((SECONDS < end)); do
+    if ! running; then
+        end_run
+        start_run
+        sleep 0.5
+        continue
+    fi
+    act
+done
+if running; then
+    kill -TERM "$app_pid"
+    for _ in $(seq 150); do running || break; sleep 0.1; done
+    running && { caused=1; hangs=$((hangs + 1)); log "HANG: the last run did not close"; kill -KILL "$app_pid"; }
+fi
+[ -n "$app_pid" ] && end_run
+
+played=$(awk -v s="$SECONDS" 'BEGIN { printf "%.1f", s / 60 }')
+{
+    echo "program:   $program"
+    echo "seed:      $seed"
+    echo "minutes:   $played"
+    echo "actions:   $actions"
+    echo "runs:      $runs"
+    echo "crashes:   $crashes"
+    echo "hangs:     $hangs"
+    echo "malformed: $malformed"
+    echo "signals sent: $signals; input probes: $probes"
+    echo "windows on top (actions):"
+    for title in "${!seen[@]}"; do
+        printf '  %6d  %s\n' "${seen[$title]}" "$title"
+    done | sort -rn
+} | tee "$out/report.txt"
+((crashes == 0 && hangs == 0 && malformed == 0))

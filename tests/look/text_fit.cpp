@@ -3,7 +3,6 @@
 // Standard library
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 // Qt
 #include <QAbstractButton>
@@ -11,6 +10,7 @@
 #include <QCheckBox>
 #include <QFontMetrics>
 #include <QGroupBox>
+#include <QHash>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
@@ -204,19 +204,27 @@ QString cutByParent(const QWidget& widget, const QWidget& window) {
     return {};
 }
 
-// What a text is drawn on: the colour most of its control's pixels show.
-QColor mostCommonColour(const QImage& shot, const QRect& area) {
-    std::map<QRgb, int> counts;
+// What a text is drawn on: the colour most pixels along its control's edge show.
+QColor edgeColour(const QImage& shot, const QRect& area) {
+    QHash<QRgb, int> counts;
     const QRect inside = area.intersected(shot.rect());
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+        ++counts[shot.pixel(x, inside.top())];
+        ++counts[shot.pixel(x, inside.bottom())];
+    }
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        for (int x = inside.left(); x <= inside.right(); ++x) {
-            ++counts[shot.pixel(x, y)];
+        ++counts[shot.pixel(inside.left(), y)];
+        ++counts[shot.pixel(inside.right(), y)];
+    }
+    QRgb most = 0;
+    int mostCount = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() > mostCount) {
+            most = it.key();
+            mostCount = it.value();
         }
     }
-    const auto most =
-        std::max_element(counts.begin(), counts.end(),
-                         [](const auto& a, const auto& b) { return a.second < b.second; });
-    return most == counts.end() ? QColor() : QColor::fromRgb(most->first);
+    return QColor::fromRgb(most);
 }
 
 double luminance(const QColor& colour) {
@@ -268,7 +276,8 @@ QStringList cutTexts(const QWidget& window) {
 
 QStringList illegibleTexts(const QWidget& window) {
     QStringList faults;
-    const QImage shot = const_cast<QWidget&>(window).grab().toImage();
+    const QImage shot =
+        const_cast<QWidget&>(window).grab().toImage().convertToFormat(QImage::Format_RGB32);
     const qreal ratio = shot.devicePixelRatio();
     for (QWidget* widget : shownControls(window)) {
         QColor text;
@@ -285,9 +294,9 @@ QStringList illegibleTexts(const QWidget& window) {
             }
             text = widget->palette().color(widget->foregroundRole());
             const QPoint corner = widget->mapTo(&window, QPoint(0, 0));
-            back = mostCommonColour(
-                shot, QRect(QPoint(qRound(corner.x() * ratio), qRound(corner.y() * ratio)),
-                            widget->size() * ratio));
+            back = edgeColour(shot,
+                              QRect(QPoint(qRound(corner.x() * ratio), qRound(corner.y() * ratio)),
+                                    widget->size() * ratio));
         } else {
             continue;
         }

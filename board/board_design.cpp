@@ -59,11 +59,11 @@ QColor colour(Rgb rgb) {
 // The two schemes: board colour with white text, and black panels in the display colour. Each is
 // set once on the widget that starts it and reaches the controls inside it.
 struct Schemes {
-    QPalette board;
-    QPalette boardField;
-    QPalette boardOption;
-    QPalette display;
-    QPalette displayField;
+    QPalette board{};
+    QPalette boardField{};
+    QPalette boardOption{};
+    QPalette display{};
+    QPalette displayField{};
 };
 
 Schemes schemes(const GameVariant& v) {

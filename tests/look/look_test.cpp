@@ -5,21 +5,17 @@
 // environment (QT_SCALE_FACTOR), one test entry per factor.
 
 // Standard library
-#include <functional>
+#include <algorithm>
+#include <array>
 
 // Qt
-#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
-#include <QTimer>
 #include <QtTest>
 
 // Marivale
-#include "board/game_board.h"
-#include "board/game_variant.h"
-#include "engine/game.h"
-#include "hand_text.h"
+#include "legibility.h"
+#include "look_support.h"
 #include "text_fit.h"
 
 using namespace marivale;
@@ -31,128 +27,22 @@ const QColor kBlack(0, 0, 0);
 const QColor kWhite(255, 255, 255);
 
 struct BoardLook {
-    GameId game;
-    QColor board;
-    QColor display;
+    GameId game{};
+    QColor board{};
+    QColor display{};
 };
 
-constexpr std::array<GameId, 4> kGames{GameId::TreasureTrips, GameId::DeucesWild, GameId::JokerWild,
-                                       GameId::JacksOrBetter};
+// Each board's colour and display colour, boards in the menu's order.
+const std::array<BoardLook, 4> kLooks{{
+    {GameId::TreasureTrips, QColor(0, 0, 128), QColor(0, 255, 255)},
+    {GameId::DeucesWild, QColor(0, 128, 0), QColor(0, 255, 0)},
+    {GameId::JokerWild, QColor(128, 0, 0), QColor(192, 0, 0)},
+    {GameId::JacksOrBetter, QColor(0, 128, 128), QColor(0, 192, 192)},
+}};
 
-const std::map<GameId, BoardLook> kLooks{
-    {GameId::TreasureTrips, {GameId::TreasureTrips, QColor(0, 0, 128), QColor(0, 255, 255)}},
-    {GameId::DeucesWild, {GameId::DeucesWild, QColor(0, 128, 0), QColor(0, 255, 0)}},
-    {GameId::JokerWild, {GameId::JokerWild, QColor(128, 0, 0), QColor(192, 0, 0)}},
-    {GameId::JacksOrBetter, {GameId::JacksOrBetter, QColor(0, 128, 128), QColor(0, 192, 192)}},
-};
-
-// A visit to a board opened as the main menu opens it: a window of the menu's, on the one state.
-struct Visit {
-    Visit(GameId g, float playUnit) : game(g) {
-        state.PlayUnit = playUnit;
-        state.NetWinLoss = 0.0f;
-        state.DoubleUpEnabled = kTrue;
-        menu.setObjectName(QStringLiteral("frmMain"));
-        menu.resize(300, 200);
-        menu.show();
-        board = new GameBoard(variantFor(game), state, random, &menu);
-        board->show();
-    }
-
-    template <typename W = QWidget> W* find(const QString& name) const {
-        return board->findChild<W*>(name);
-    }
-    void click(const QString& name) const {
-        if (auto* button = find<QAbstractButton>(name); button != nullptr && button->isEnabled()) {
-            button->click();
-        }
-        QCoreApplication::processEvents();
-    }
-    void deal(const char* cards) {
-        for (const int code : cardsFromText(cards)) {
-            random.pushIndex(code, deckSize(game));
-        }
-        click(QStringLiteral("DrawDeal"));
-    }
-    // A control's rectangle in the board's coordinates.
-    QRect placeOf(const QString& name) const {
-        QWidget* widget = find(name);
-        return QRect(widget->mapTo(board, QPoint(0, 0)), widget->size());
-    }
-
-    GameId game;
-    GameState state{};
-    ScriptedRandomSource random{};
-    QWidget menu{};
-    GameBoard* board{nullptr};
-};
-
-// Runs the action on the modal window of that name once it is up, from inside its event loop.
-// A window that never comes is given up after a few seconds, closing whatever window waits.
-void whenModal(const QString& name, std::function<void(QWidget&)> action) {
-    auto* poll = new QTimer;
-    poll->setInterval(5);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll, name, action = std::move(action)] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (modal != nullptr && modal->objectName() == name) {
-            poll->stop();
-            poll->deleteLater();
-            action(*modal);
-        } else if (poll->property("ticks").toInt() > 600) {
-            poll->stop();
-            poll->deleteLater();
-            if (modal != nullptr) {
-                modal->close();
-            }
-        }
-        poll->setProperty("ticks", poll->property("ticks").toInt() + 1);
-    });
-    poll->start();
-}
-
-void clickIn(QWidget& window, const QString& name) {
-    if (auto* button = window.findChild<QAbstractButton*>(name)) {
-        button->click();
-    }
-}
-
-// Collects every fault of one window, each line naming where it was seen.
-class Faults {
-public:
-    void add(const QString& where, const QStringList& found) {
-        for (const QString& fault : found) {
-            lines_ << where + QStringLiteral(": ") + fault;
-        }
-    }
-    void expect(const QString& where, bool ok, const QString& what) {
-        if (!ok) {
-            lines_ << where + QStringLiteral(": ") + what;
-        }
-    }
-    // Every text whole and readable.
-    void whole(const QString& where, QWidget& window) {
-        add(where, cutTexts(window));
-        add(where, illegibleTexts(window));
-    }
-    // Lists every fault in the log; the test's own message holds only the count.
-    QString report() const {
-        for (const QString& line : lines_) {
-            qInfo().noquote() << line;
-        }
-        return QStringLiteral("%1 faults, listed above").arg(lines_.size());
-    }
-    bool empty() const { return lines_.isEmpty(); }
-
-private:
-    QStringList lines_;
-};
-
-// With MARIVALE_SHOTS set to a directory, saves a picture of the window there for a look.
-void saveShot(QWidget& window, const QString& name) {
-    const QString dir = qEnvironmentVariable("MARIVALE_SHOTS");
-    if (!dir.isEmpty()) {
-        window.grab().save(QDir(dir).absoluteFilePath(name + QStringLiteral(".png")));
-    }
+const BoardLook& lookOf(GameId game) {
+    return *std::find_if(kLooks.begin(), kLooks.end(),
+                         [game](const BoardLook& look) { return look.game == game; });
 }
 
 QString colourText(const QColor& c) {
@@ -160,7 +50,7 @@ QString colourText(const QColor& c) {
 }
 
 void checkBoard(Visit& v, const QString& where, Faults& faults) {
-    const BoardLook& look = kLooks.at(v.game);
+    const BoardLook& look = lookOf(v.game);
     QWidget& board = *v.board;
     saveShot(board, where);
     faults.whole(where, board);
@@ -352,7 +242,8 @@ void LookTest::everyWindowFromItsBoard() {
     QApplication::setFont(QFont(family, points));
     QLocale::setDefault(QLocale(locale));
     Faults faults;
-    for (const GameId game : kGames) {
+    for (const BoardLook& look : kLooks) {
+        const GameId game = look.game;
         visitBoard(game, points == 9 && locale == QLatin1String("C"), faults);
         visitAtTheTopBet(game, faults);
     }

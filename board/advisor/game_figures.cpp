@@ -2,8 +2,10 @@
 
 // Qt
 #include <QDoubleSpinBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -54,6 +56,16 @@ void setFrequency(QTableWidget& table, int row, double probability) {
 GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(game) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    auto* noteRow = new QHBoxLayout;
+    tableNote_ = new QLabel(this);
+    tableNote_->setObjectName(QStringLiteral("PayTableNote"));
+    tableNote_->setTextFormat(Qt::RichText);
+    noteRow->addWidget(tableNote_, 1);
+    boardTable_ = new QPushButton(tr("Board's table"), this);
+    boardTable_->setObjectName(QStringLiteral("BoardTable"));
+    noteRow->addWidget(boardTable_);
+    layout->addLayout(noteRow);
+    connect(boardTable_, &QPushButton::clicked, this, &GameFigures::boardTableAsked);
     returnLabel_ = new QLabel(this);
     returnLabel_->setObjectName(QStringLiteral("GameReturn"));
     layout->addWidget(returnLabel_);
@@ -107,7 +119,11 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     showComputing();
 }
 
-void GameFigures::showScale(const odds::PayScale& scale) {
+void GameFigures::showScale(const odds::PayScale& scale, bool edited) {
+    tableNote_->setText(edited ? tr("<span style=\"color:#b00000\"><b>Edited pay table</b>: not "
+                                    "the board's, which pays its own.</span>")
+                               : tr("The board's pay table."));
+    boardTable_->setEnabled(edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
         QDoubleSpinBox* pay = pays_[static_cast<std::size_t>(row)];
@@ -132,14 +148,14 @@ void GameFigures::showComputing() {
     }
 }
 
-void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& scale) {
+void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& scale, bool edited) {
     returnLabel_->setText(tr("Return with the best play: <b>%1%</b>")
                               .arg(QString::number(100.0 * result.expectedReturn, 'f', 4)));
     varianceLabel_->setText(tr("Variance of a hand: <b>%1</b> bets\u00b2 &nbsp; standard "
                                "deviation: <b>%2</b> bets")
                                 .arg(QString::number(result.variance, 'f', 4),
                                      QString::number(result.standardDeviation(), 'f', 4)));
-    showScale(scale);
+    showScale(scale, edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
         setFrequency(*hits_, row, result.codeProbability[static_cast<std::size_t>(code)]);

@@ -2,7 +2,8 @@
 
 // The game's figures at a pay table under the best play: the return, the variance and standard
 // deviation of a hand's pay, and how often each paying hand (and on Treasure Trips the Treasure
-// Hunt) comes up. Each paying hand's multiplier is a spin box the player may change.
+// Hunt) comes up. Each paying hand's multiplier is a spin box the player may change; a changed
+// table is marked as not the board's, with a button that asks for the board's table back.
 
 // Standard library
 #include <vector>
@@ -17,6 +18,7 @@
 
 class QDoubleSpinBox;
 class QLabel;
+class QPushButton;
 class QTableWidget;
 
 namespace marivale {
@@ -31,17 +33,21 @@ public:
 
     GameFigures(GameId game, QWidget* parent = nullptr);
 
-    // The multipliers on show, without telling anyone.
-    void showScale(const odds::PayScale& scale);
+    // The multipliers on show, without telling anyone, and whether they are not the board's.
+    void showScale(const odds::PayScale& scale, bool edited);
     void showComputing();
-    void showOdds(const odds::GameOdds& result, const odds::PayScale& scale);
+    void showOdds(const odds::GameOdds& result, const odds::PayScale& scale, bool edited);
 
 signals:
     // The player changed the multiplier of a code.
     void multiplierEdited(int code, double multiplier);
+    // The player asked for the board's own table back.
+    void boardTableAsked();
 
 private:
     GameId game_;
+    QLabel* tableNote_{nullptr};
+    QPushButton* boardTable_{nullptr};
     QLabel* returnLabel_{nullptr};
     QLabel* varianceLabel_{nullptr};
     QTableWidget* hits_{nullptr};

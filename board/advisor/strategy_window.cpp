@@ -4,11 +4,9 @@
 #include <cmath>
 
 // Qt
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 // Marivale
@@ -16,6 +14,7 @@
 #include "board/advisor/card_text.h"
 #include "board/advisor/game_figures.h"
 #include "board/advisor/game_odds_cache.h"
+#include "board/advisor/trainer_panel.h"
 #include "board/game_variant.h"
 #include "engine/hand_analysis.h"
 #include "engine/money_format.h"
@@ -42,17 +41,6 @@ DealtCards readDeal(const GameState& state) {
     return dealt;
 }
 
-// The cards a hold keeps, as coloured text; "nothing" for a draw of five.
-QString heldHtml(const DealtCards& dealt, unsigned held) {
-    QStringList cards;
-    for (std::size_t p = 0; p < dealt.size(); ++p) {
-        if ((held >> p) & 1u) {
-            cards << cardHtml(dealt[p]);
-        }
-    }
-    return cards.isEmpty() ? QObject::tr("nothing") : cards.join(' ');
-}
-
 bool sameScale(const odds::PayScale& a, const odds::PayScale& b) {
     return a.multiplier == b.multiplier && a.bonus == b.bonus;
 }
@@ -66,26 +54,20 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     setWindowTitle(QStringLiteral("Strategy"));
     buildLayout();
 
-    connect(trainer_, &QCheckBox::toggled, this, [this](bool on) {
-        if (!on) {
-            verdict_->clear();
-        }
-        showTally();
-    });
     connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
-    connect(boardTable_, &QPushButton::clicked, this, &StrategyWindow::useBoardTable);
+    connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
-    showTally();
-    showTableNote();
-    figures_->showScale(scale_);
+    figures_->showScale(scale_, edited_);
     resize(sizeHint());
     startGameWork();
 }
 
 StrategyWindow::~StrategyWindow() {
-    stopWork();
+    // Both at once: neither waits for the other's stop.
+    gameWork_.requestStop();
+    ruinWork_.requestStop();
 }
 
 // Two columns: the dealt hand's holds and the trainer; the game's figures and the bankroll.
@@ -101,23 +83,8 @@ void StrategyWindow::buildLayout() {
     holds_ = new HoldTable(this);
     layout->addWidget(holds_, 1);
 
-    auto* trainerRow = new QHBoxLayout;
-    trainer_ = new QCheckBox(tr("Trainer mode"), this);
-    trainer_->setObjectName(QStringLiteral("Trainer"));
-    trainerRow->addWidget(trainer_);
-    trainerRow->addStretch(1);
-    tallyLabel_ = new QLabel(this);
-    tallyLabel_->setObjectName(QStringLiteral("TrainerTally"));
-    trainerRow->addWidget(tallyLabel_);
-    layout->addLayout(trainerRow);
-
-    verdict_ = new QLabel(this);
-    verdict_->setObjectName(QStringLiteral("TrainerVerdict"));
-    verdict_->setTextFormat(Qt::RichText);
-    verdict_->setWordWrap(true);
-    verdict_->setMinimumHeight(2 * verdict_->fontMetrics().lineSpacing());
-    verdict_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    layout->addWidget(verdict_);
+    trainer_ = new TrainerPanel(this);
+    layout->addWidget(trainer_);
 
     auto* side = new QVBoxLayout;
     columns->addLayout(side);
@@ -127,15 +94,6 @@ void StrategyWindow::buildLayout() {
                                    static_cast<qsizetype>(variantFor(game_).title.size()))),
         this);
     auto* gameLayout = new QVBoxLayout(gameBox);
-    auto* noteRow = new QHBoxLayout;
-    tableNote_ = new QLabel(gameBox);
-    tableNote_->setObjectName(QStringLiteral("PayTableNote"));
-    tableNote_->setTextFormat(Qt::RichText);
-    noteRow->addWidget(tableNote_, 1);
-    boardTable_ = new QPushButton(tr("Board's table"), gameBox);
-    boardTable_->setObjectName(QStringLiteral("BoardTable"));
-    noteRow->addWidget(boardTable_);
-    gameLayout->addLayout(noteRow);
     figures_ = new GameFigures(game_, gameBox);
     gameLayout->addWidget(figures_);
     side->addWidget(gameBox);
@@ -144,25 +102,11 @@ void StrategyWindow::buildLayout() {
     side->addWidget(bankroll_, 1);
 }
 
-void StrategyWindow::stopWork() {
-    gameWorker_.request_stop();
-    ruinWorker_.request_stop();
-    if (gameWorker_.joinable()) {
-        gameWorker_.join();
-    }
-    if (ruinWorker_.joinable()) {
-        ruinWorker_.join();
-    }
-}
-
 // Builds the game's tables, then the whole-game figures of the table on show, off the
 // user-interface thread; each result comes back to the window as a queued call. The board's own
 // figures are kept for the life of the process once worked out.
 void StrategyWindow::startGameWork() {
-    gameWorker_.request_stop();
-    if (gameWorker_.joinable()) {
-        gameWorker_.join();
-    }
+    gameWork_.stop();
     ++generation_;
     if (!edited_) {
         if (const auto known = cachedGameOdds(game_)) {
@@ -170,8 +114,8 @@ void StrategyWindow::startGameWork() {
         }
     }
     const bool needGame = !gameOddsShown_;
-    gameWorker_ = std::jthread([this, needGame, game = game_, scale = scale_, own = !edited_,
-                                generation = generation_](std::stop_token stop) {
+    gameWork_.start([this, needGame, game = game_, scale = scale_, own = !edited_,
+                     generation = generation_](std::stop_token stop) {
         const odds::DrawTables* tables = odds::DrawTables::forGameUnlessStopped(game, stop);
         if (tables == nullptr) {
             return;
@@ -196,30 +140,26 @@ void StrategyWindow::startGameWork() {
 
 // The risk curve of the table on show over the panel's hands, off the user-interface thread.
 void StrategyWindow::startRuinWork() {
-    ruinWorker_.request_stop();
-    if (ruinWorker_.joinable()) {
-        ruinWorker_.join();
-    }
+    ruinWork_.stop();
     bankroll_->showComputing();
     if (!gameOdds_) {
         return;
     }
-    ruinWorker_ =
-        std::jthread([this, payouts = odds::payoutDistribution(*gameOdds_, scale_),
-                      hands = bankroll_->hands(), generation = generation_](std::stop_token stop) {
-            auto curve = odds::ruinCurve(payouts, hands, stop);
-            if (!curve) {
-                return;
-            }
-            QMetaObject::invokeMethod(
-                this,
-                [this, found = std::move(*curve), generation] {
-                    if (generation == generation_) {
-                        bankroll_->showCurve(found);
-                    }
-                },
-                Qt::QueuedConnection);
-        });
+    ruinWork_.start([this, payouts = odds::payoutDistribution(*gameOdds_, scale_),
+                     hands = bankroll_->hands(), generation = generation_](std::stop_token stop) {
+        auto curve = odds::ruinCurve(payouts, hands, stop);
+        if (!curve) {
+            return;
+        }
+        QMetaObject::invokeMethod(
+            this,
+            [this, found = std::move(*curve), generation] {
+                if (generation == generation_) {
+                    bankroll_->showCurve(found);
+                }
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 bool StrategyWindow::riskReady() const {
@@ -237,7 +177,7 @@ void StrategyWindow::gameOddsReady(const odds::GameOdds& result, int generation)
         return;
     }
     gameOdds_ = result;
-    figures_->showOdds(result, scale_);
+    figures_->showOdds(result, scale_, edited_);
     gameOddsShown_ = true;
     startRuinWork();
 }
@@ -260,12 +200,11 @@ void StrategyWindow::useBoardTable() {
 // out again.
 void StrategyWindow::payScaleChanged() {
     edited_ = !sameScale(scale_, boardScale_);
-    showTableNote();
-    figures_->showScale(scale_);
+    figures_->showScale(scale_, edited_);
     figures_->showComputing();
     gameOdds_.reset();
     gameOddsShown_ = false;
-    ruinWorker_.request_stop();
+    ruinWork_.requestStop();
     startGameWork();
     if (!gameOdds_) {
         bankroll_->showComputing();
@@ -276,19 +215,12 @@ void StrategyWindow::payScaleChanged() {
     }
 }
 
-void StrategyWindow::showTableNote() {
-    tableNote_->setText(edited_ ? tr("<span style=\"color:#b00000\"><b>Edited pay table</b>: not "
-                                     "the board's, which pays its own.</span>")
-                                : tr("The board's pay table."));
-    boardTable_->setEnabled(edited_);
-}
-
 void StrategyWindow::handDealt() {
     const DealtCards dealt = readDeal(state_);
     handOdds_.reset();
     boardHandOdds_.reset();
     pendingPlay_.reset();
-    verdict_->clear();
+    trainer_->clearVerdict();
     if (!odds::isValidDeal(deckSize(game_), dealt)) {
         dealt_.reset();
         holds_->showNoDeal();
@@ -318,7 +250,7 @@ void StrategyWindow::analyseDeal() {
 }
 
 void StrategyWindow::handPlayed(std::array<bool, 5> held) {
-    if (!dealt_ || !trainer_->isChecked()) {
+    if (!dealt_ || !trainer_->isOn()) {
         return;
     }
     unsigned mask = 0;
@@ -327,7 +259,7 @@ void StrategyWindow::handPlayed(std::array<bool, 5> held) {
     }
     if (!boardHandOdds_) {
         pendingPlay_ = mask;
-        verdict_->setText(tr("Checking your hold\u2026"));
+        trainer_->showChecking();
         return;
     }
     judge(mask);
@@ -335,19 +267,7 @@ void StrategyWindow::handPlayed(std::array<bool, 5> held) {
 
 // The trainer judges by the board's own table, whatever table the window shows.
 void StrategyWindow::judge(unsigned played) {
-    const TrainerVerdict verdict = tally_.judge(*boardHandOdds_, played, state_.BetAmount);
-    if (verdict.mistake) {
-        verdict_->setText(
-            tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
-               "It cost %5.")
-                .arg(heldHtml(*dealt_, verdict.played),
-                     QString::number(verdict.playedReturn, 'f', 4), heldHtml(*dealt_, verdict.best),
-                     QString::number(verdict.bestReturn, 'f', 4), money(verdict.cost)));
-    } else {
-        verdict_->setText(
-            tr("Best hold played (%1 bets).").arg(QString::number(verdict.playedReturn, 'f', 4)));
-    }
-    showTally();
+    trainer_->judge(*boardHandOdds_, *dealt_, played, state_.BetAmount);
 }
 
 void StrategyWindow::betChanged() {
@@ -365,12 +285,6 @@ void StrategyWindow::showDealtLabel() {
     }
     dealtLabel_->setText(
         tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cards.join(' '), money(state_.BetAmount)));
-}
-
-void StrategyWindow::showTally() {
-    tallyLabel_->setText(
-        tr("Mistakes: %1   Cost: %2").arg(tally_.mistakes()).arg(money(tally_.cost())));
-    tallyLabel_->setEnabled(trainer_->isChecked());
 }
 
 } // namespace marivale

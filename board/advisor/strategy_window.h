@@ -12,14 +12,13 @@
 // Standard library
 #include <array>
 #include <optional>
-#include <thread>
 
 // Qt
 #include <QWidget>
 
 // Marivale
+#include "board/advisor/background_job.h"
 #include "board/advisor/hold_table.h"
-#include "board/advisor/trainer.h"
 #include "engine/game.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/hold_odds.h"
@@ -27,14 +26,13 @@
 #include "engine/odds/risk_of_ruin.h"
 #include "state/game_state.h"
 
-class QCheckBox;
 class QLabel;
-class QPushButton;
 
 namespace marivale {
 
 class BankrollPanel;
 class GameFigures;
+class TrainerPanel;
 
 class StrategyWindow : public QWidget {
     Q_OBJECT
@@ -67,15 +65,12 @@ private:
     void buildLayout();
     void startGameWork();
     void startRuinWork();
-    void stopWork();
     void tablesReady();
     void gameOddsReady(const odds::GameOdds& result, int generation);
     void payScaleChanged();
     void analyseDeal();
     void judge(unsigned played);
-    void showTally();
     void showDealtLabel();
-    void showTableNote();
 
     GameId game_;
     const GameState& state_;
@@ -88,22 +83,17 @@ private:
     std::optional<odds::HandOdds> handOdds_{};
     std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
     std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready
-    TrainerTally tally_{};
     bool gameOddsShown_{false};
 
     QLabel* dealtLabel_{nullptr};
     HoldTable* holds_{nullptr};
-    QCheckBox* trainer_{nullptr};
-    QLabel* verdict_{nullptr};
-    QLabel* tallyLabel_{nullptr};
-    QLabel* tableNote_{nullptr};
-    QPushButton* boardTable_{nullptr};
+    TrainerPanel* trainer_{nullptr};
     GameFigures* figures_{nullptr};
     BankrollPanel* bankroll_{nullptr};
 
     // Last members: stopped and joined first when the window goes.
-    std::jthread gameWorker_{};
-    std::jthread ruinWorker_{};
+    BackgroundJob gameWork_{};
+    BackgroundJob ruinWork_{};
 };
 
 } // namespace marivale

@@ -7,6 +7,7 @@
 
 // Marivale
 #include "board/game_variant.h"
+#include "bonus/design_look.h"
 #include "engine/game.h"
 #include "hand_text.h"
 #include "legibility.h"
@@ -93,6 +94,13 @@ void Faults::expect(const QString& where, bool ok, const QString& what) {
 void Faults::whole(const QString& where, QWidget& window) {
     add(where, cutTexts(window));
     add(where, illegibleTexts(window));
+    QList<QWidget*> controls = shownControls(window);
+    controls << &window;
+    for (const QWidget* control : controls) {
+        const QFont font = control->font();
+        expect(where, font.family() == QLatin1String(kDesignFamily) && font.pixelSize() > 0,
+               control->objectName() + QStringLiteral(" is not in the design face"));
+    }
 }
 
 QString Faults::report() const {

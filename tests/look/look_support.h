@@ -55,7 +55,7 @@ class Faults {
 public:
     void add(const QString& where, const QStringList& found);
     void expect(const QString& where, bool ok, const QString& what);
-    // Every text of the window whole and readable.
+    // Every text of the window whole, readable and in the design face.
     void whole(const QString& where, QWidget& window);
     // Lists every fault in the log; the test's own message holds only the count.
     QString report() const;

@@ -69,18 +69,18 @@ void checkBoard(Visit& v, const QString& where, Faults& faults) {
     faults.expect(where,
                   title->font().pixelSize() == 32 && title->font().bold() && title->font().italic(),
                   QStringLiteral("title is not 24 pt bold italic"));
-    for (QWidget* control : board.findChildren<QWidget*>()) {
-        bool own = true;
-        for (const QWidget* up = control; up != &board && own; up = up->parentWidget()) {
-            own = !up->isWindow();
+    for (const char* name : {"Label10", "Label31"}) {
+        if (const QLabel* note = v.find<QLabel>(QString::fromLatin1(name))) {
+            faults.expect(where, note->font().pixelSize() == 16 && note->font().bold(),
+                          QStringLiteral("note is not 12 pt bold"));
         }
-        if (!own || control == title || control->objectName().startsWith("Label")) {
-            continue;
+    }
+    // The title and the note have their own sizes; every other text is 8.25 points bold.
+    for (const QWidget* control : shownControls(board)) {
+        if (control != title && !control->objectName().startsWith("Label")) {
+            faults.expect(where, control->font().pixelSize() == 11 && control->font().bold(),
+                          control->objectName() + QStringLiteral(" is not in 8.25 pt bold"));
         }
-        const QFont font = control->font();
-        faults.expect(where,
-                      font.pixelSize() == 11 && font.bold() && font.family() == "Liberation Sans",
-                      control->objectName() + QStringLiteral(" is not in 8.25 pt bold"));
     }
 }
 

@@ -134,6 +134,12 @@ void BankrollPanel::showComputing() {
     mark_->clear();
 }
 
+void BankrollPanel::showTooMuch() {
+    showComputing();
+    risk_->setText(tr("Risk of ruin: too much work at these pays over so many hands; try fewer "
+                      "hands."));
+}
+
 void BankrollPanel::showCurve(const odds::RuinCurve& curve) {
     curve_ = curve;
     showRisk();

@@ -38,6 +38,8 @@ public:
     void setBet(float bet);
     void showComputing();
     void showCurve(const odds::RuinCurve& curve);
+    // No curve for this table and these hands: too much work.
+    void showTooMuch();
     const std::optional<odds::RuinCurve>& curve() const { return curve_; }
 
 signals:

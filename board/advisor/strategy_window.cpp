@@ -149,6 +149,16 @@ void StrategyWindow::startRuinWork() {
                      hands = bankroll_->hands(), generation = generation_](std::stop_token stop) {
         auto curve = odds::ruinCurve(payouts, hands, stop);
         if (!curve) {
+            if (!stop.stop_requested()) {
+                QMetaObject::invokeMethod(
+                    this,
+                    [this, generation] {
+                        if (generation == generation_) {
+                            bankroll_->showTooMuch();
+                        }
+                    },
+                    Qt::QueuedConnection);
+            }
             return;
         }
         QMetaObject::invokeMethod(

@@ -120,6 +120,10 @@ std::optional<RuinCurve> ruinCurve(std::span<const Payout> payouts, int hands,
     const int bet = grid.perBet;
     const int top = *std::max_element(grid.steps.begin(), grid.steps.end());
     const auto states = static_cast<std::size_t>(hands) * static_cast<std::size_t>(bet);
+    if (static_cast<double>(states) * hands * static_cast<double>(grid.steps.size()) / 2 >
+        kMostRuinWork) {
+        return std::nullopt;
+    }
     // Room above the last state so that every pay lands inside the array (on a zero).
     std::vector<double> previous(states + static_cast<std::size_t>(top) + 1, 0.0);
     std::vector<double> current(previous.size(), 0.0);

@@ -34,6 +34,9 @@ double payoutVariance(std::span<const Payout> payouts);
 inline constexpr int kMaxRuinHands = 20'000;
 // Pays that are not whole multiples of 1/64 of a bet are rounded down to such a grid.
 inline constexpr int kFinestRuinGrid = 64;
+// The most steps of the recursion (hands x bankrolls x distinct pays, halved) a curve may take,
+// a few seconds' work.
+inline constexpr double kMostRuinWork = 4e9;
 
 // The risk of ruin over a session of a fixed number of hands, for every starting bankroll.
 // Bankrolls move on a grid of `unit` bets: the largest step that every pay and the bet are
@@ -50,8 +53,8 @@ struct RuinCurve {
     double bankrollFor(double target) const;
 };
 
-// Nothing when the hands are out of 0..kMaxRuinHands, the pays have no probability, or `stop`
-// is requested first.
+// Nothing when the hands are out of 0..kMaxRuinHands, the pays have no probability, the grid
+// is so fine that the work would pass kMostRuinWork, or `stop` is requested first.
 std::optional<RuinCurve> ruinCurve(std::span<const Payout> payouts, int hands,
                                    std::stop_token stop = {});
 

@@ -101,6 +101,9 @@ TEST(RiskOfRuin, RefusesWhatItCannotWorkOut) {
     EXPECT_FALSE(odds::ruinCurve(kCoin, odds::kMaxRuinHands + 1));
     EXPECT_FALSE(odds::ruinCurve(std::vector<Payout>{{1.0, 0.0}}, 5));
     EXPECT_FALSE(odds::ruinCurve(std::vector<Payout>{{-1.0, 1.0}}, 5));
+    // Pays off every grid over twenty thousand hands: far too many bankrolls.
+    EXPECT_FALSE(odds::ruinCurve(std::vector<Payout>{{0.0, 0.5}, {2.01, 0.25}, {0.33, 0.25}},
+                                 odds::kMaxRuinHands));
     std::stop_source stop;
     stop.request_stop();
     EXPECT_FALSE(odds::ruinCurve(kCoin, 100, stop.get_token()));

@@ -72,7 +72,10 @@ int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const S
     const auto payouts = odds::payoutDistribution(result, scale);
     const auto curve = odds::ruinCurve(payouts, hands);
     if (!curve) {
-        std::fprintf(stderr, "marivale-odds: at most %d hands\n", odds::kMaxRuinHands);
+        std::fprintf(stderr,
+                     "marivale-odds: too many hands for these pays (at most %d, fewer when the "
+                     "pays are not whole bets)\n",
+                     odds::kMaxRuinHands);
         return 2;
     }
     if (curve->unit != 1.0 || !curve->exact) {

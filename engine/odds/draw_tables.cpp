@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <bit>
 #include <chrono>
+#include <future>
 #include <memory>
 #include <stdexcept>
 
@@ -151,11 +152,16 @@ const DrawTables* DrawTables::ifBuilt(GameId game) {
 DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     : game_(game), deckSize_(marivale::deckSize(game)) {
     const auto start = std::chrono::steady_clock::now();
-    classes_ = subsetClassTablesUnlessStopped(deckSize_, stop);
+    // The classes of the smaller sets depend on the deck alone: found while the deals are
+    // classified.
+    auto smaller = std::async(std::launch::async, [this, &stop] {
+        return subsetClassTablesUnlessStopped(deckSize_, stop);
+    });
+    classifyDeals(threads, stop);
+    classes_ = smaller.get();
     if (classes_ == nullptr) {
         throw BuildStopped{};
     }
-    classifyDeals(threads, stop);
     throwIfStopped(stop);
     countFours();
     throwIfStopped(stop);

@@ -22,6 +22,8 @@
 #include "board/stats/stats_tables.h"
 #include "board/stats/stats_window.h"
 #include "board_fixture.h"
+#include "legibility.h"
+#include "text_fit.h"
 
 using namespace marivale;
 using marivale::testing::BoardFixture;
@@ -78,6 +80,7 @@ private slots:
     void chartHasAPointPerHand();
     void historyNewestFirstAndExportReadsBack();
     void runFiguresOutliveABoard();
+    void textsWholeAndReadable();
 };
 
 void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
@@ -201,6 +204,29 @@ void StatsWindowTest::runFiguresOutliveABoard() {
     QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
     QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
     QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
+}
+
+// The window lays itself out for the desktop's font: each text whole and readable, with the
+// figures of a Treasure Trips visit in every row.
+void StatsWindowTest::textsWholeAndReadable() {
+    BoardFixture f(GameId::TreasureTrips, 0.0f, 1.0f);
+    f.buy(0);
+    f.script("3s 3d 3h 4c Kd");
+    f.click("DrawDeal");
+    marivale::testing::answerModal([&f](QWidget& hunt) {
+        f.random.push(0.95); // the largest chest
+        marivale::testing::clickIn(hunt, QStringLiteral("Tr2"));
+        marivale::testing::clickIn(hunt, QStringLiteral("TClose"));
+    });
+    f.click("Stand");
+    playHand(f, "As Ks Qs Js 2c", 0b01111);
+    StatsWindow* window = openStats(*f.board);
+    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
+    QCOMPARE(summary(*window, SummaryRow::Bonuses, kVisitColumn), QStringLiteral("1"));
+    const QStringList cut = marivale::testing::cutTexts(*window);
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+    const QStringList illegible = marivale::testing::illegibleTexts(*window);
+    QVERIFY2(illegible.isEmpty(), qPrintable(illegible.join('\n')));
 }
 
 QTEST_MAIN(StatsWindowTest)

@@ -1,0 +1,234 @@
+# A throw-away desktop for driving the real program: Xvfb with openbox, a private configuration,
+# and a working folder holding the pictures and the bell. Source this file, then call
+# desktop_start; desktop_stop (also run on exit) ends everything it started.
+#
+# Knobs, all optional, read by desktop_start:
+#   MARIVALE_BIN         the program directory (default: build/bin of the repository)
+#   MARIVALE_TITLE_PT    openbox title font size in points (default 8: a title bar of about 20 px)
+#   MARIVALE_BORDER      openbox border width in pixels (default 1)
+#   MARIVALE_NO_DECOR    1: windows get no title bar and no border at all
+#   MARIVALE_FONT_PT     the desktop's default font size through the qt6ct platform theme
+#   MARIVALE_FONT_FAMILY the desktop's default font family with qt6ct (default DejaVu Sans)
+#   MARIVALE_SCREEN      the screen size (default 1280x1024)
+# LANG and LC_ALL pass through to the program as the player's locale.
+
+DESKTOP_REPO="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+DESKTOP_PIDS=()
+DESKTOP_TMP=""
+APP_PID=""
+
+desktop_log() { echo "[desktop] $*" >&2; }
+
+# Runs "$@" until it succeeds, every 0.1 s, for at most $1 seconds.
+desktop_retry() {
+    local seconds="$1"
+    shift
+    local tries=$((seconds * 10))
+    while ((tries-- > 0)); do
+        if "$@" >/dev/null 2>&1; then
+            return 0
+        fi
+        sleep 0.1
+    done
+    return 1
+}
+
+desktop_write_openbox_config() {
+    local title_pt="${MARIVALE_TITLE_PT:-8}" border="${MARIVALE_BORDER:-1}"
+    local theme_dir="$DESKTOP_TMP/data/themes/MarivaleTest/openbox-3"
+    mkdir -p "$theme_dir"
+    sed -e "/^border.width:/d" /usr/share/themes/Clearlooks/openbox-3/themerc >"$theme_dir/themerc"
+    cp /usr/share/themes/Clearlooks/openbox-3/*.xbm "$theme_dir/" 2>/dev/null || true
+    echo "border.width: $border" >>"$theme_dir/themerc"
+    local decor=""
+    if [ "${MARIVALE_NO_DECOR:-0}" = 1 ]; then
+        decor='<application class="*"><decor>no</decor></application>'
+    fi
+    cat >"$DESKTOP_TMP/openbox-rc.xml" <<EOF
+<?xml version="1.0" encoding="UTF-8"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew><followMouse>no</followMouse></focus>
+  <placement><policy>Smart</policy><center>yes</center></placement>
+  <theme>
+    <name>MarivaleTest</name>
+    <titleLayout>NLIMC</titleLayout>
+    <keepBorder>yes</keepBorder>
+    <animateIconify>no</animateIconify>
+    <font place="ActiveWindow"><name>DejaVu Sans</name><size>$title_pt</size><weight>bold</weight></font>
+    <font place="InactiveWindow"><name>DejaVu Sans</name><size>$title_pt</size><weight>bold</weight></font>
+  </theme>
+  <desktops><number>1</number></desktops>
+  <applications>$decor</applications>
+</openbox_config>
+EOF
+}
+
+desktop_write_qt6ct_config() {
+    [ -n "${MARIVALE_FONT_PT:-}" ] || return 0
+    local family="${MARIVALE_FONT_FAMILY:-DejaVu Sans}"
+    mkdir -p "$XDG_CONFIG_HOME/qt6ct"
+    # QFont::toString(): family, point size, pixel size, style hint, weight, italic, ...
+    local font="\"$family,$MARIVALE_FONT_PT,-1,5,400,0,0,0,0,0,0,0,0,0,0,1\""
+    cat >"$XDG_CONFIG_HOME/qt6ct/qt6ct.conf" <<EOF
+[Appearance]
+style=Fusion
+custom_palette=false
+standard_dialogs=default
+
+[Fonts]
+general=$font
+fixed=$font
+EOF
+    export QT_QPA_PLATFORMTHEME=qt6ct
+}
+
+# Starts Xvfb and openbox and prepares the working folder; exports DISPLAY and the folders.
+desktop_start() {
+    DESKTOP_TMP="$(mktemp -d /tmp/marivale-desktop.XXXXXX)"
+    DESKTOP_MAIN_PID="$BASHPID"
+    trap desktop_stop EXIT
+    local bin="${MARIVALE_BIN:-$DESKTOP_REPO/build/bin}"
+    export XDG_CONFIG_HOME="$DESKTOP_TMP/config" XDG_DATA_HOME="$DESKTOP_TMP/data"
+    export XDG_RUNTIME_DIR="$DESKTOP_TMP/runtime" HOME="$DESKTOP_TMP/home"
+    mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$HOME" "$XDG_RUNTIME_DIR" "$DESKTOP_TMP/work"
+    chmod 700 "$XDG_RUNTIME_DIR"
+    unset WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS
+    export QT_QPA_PLATFORM=xcb
+    for file in "$bin"/*.gif "$bin"/bell.wav; do
+        [ -e "$file" ] && ln -s "$file" "$DESKTOP_TMP/work/"
+    done
+    APP_BINARY="$bin/marivale-poker"
+    [ -x "$APP_BINARY" ] || { desktop_log "no program at $APP_BINARY"; return 1; }
+    desktop_write_openbox_config
+    desktop_write_qt6ct_config
+
+    # A display number nobody uses: no lock file and no socket; the next one if Xvfb fails.
+    local number started=""
+    for number in $(seq 140 199); do
+        [ -e "/tmp/.X$number-lock" ] || [ -e "/tmp/.X11-unix/X$number" ] && continue
+        Xvfb ":$number" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
+            >"$DESKTOP_TMP/xvfb.log" 2>&1 &
+        local xvfb=$!
+        export DISPLAY=":$number"
+        if desktop_retry 10 xdpyinfo && kill -0 "$xvfb" 2>/dev/null; then
+            DESKTOP_PIDS+=("$xvfb")
+            started=1
+            break
+        fi
+        kill "$xvfb" 2>/dev/null || true
+        wait "$xvfb" 2>/dev/null || true
+    done
+    [ -n "$started" ] || { desktop_log "Xvfb did not start"; return 1; }
+    openbox --sm-disable --config-file "$DESKTOP_TMP/openbox-rc.xml" \
+        >"$DESKTOP_TMP/openbox.log" 2>&1 &
+    DESKTOP_PIDS+=($!)
+    desktop_retry 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
+        { desktop_log "openbox did not start"; return 1; }
+    desktop_log "display $DISPLAY, folder $DESKTOP_TMP"
+}
+
+desktop_stop() {
+    local pid
+    # Subshells (command substitutions) run the exit trap too; only the main shell cleans up.
+    [ "$BASHPID" = "$DESKTOP_MAIN_PID" ] || return 0
+    if [ -n "$APP_PID" ]; then
+        kill "$APP_PID" 2>/dev/null || true
+        APP_PID=""
+    fi
+    for ((i = ${#DESKTOP_PIDS[@]} - 1; i >= 0; i--)); do
+        pid="${DESKTOP_PIDS[$i]}"
+        kill "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
+    done
+    DESKTOP_PIDS=()
+    if [ -n "$DESKTOP_TMP" ] && [ -z "${MARIVALE_KEEP:-}" ]; then
+        rm -rf "$DESKTOP_TMP"
+    fi
+    DESKTOP_TMP=""
+}
+
+# Starts the program in the working folder and waits for its main menu.
+app_start() {
+    (cd "$DESKTOP_TMP/work" && exec "$APP_BINARY") >"$DESKTOP_TMP/app.log" 2>&1 &
+    APP_PID=$!
+    window_id "Marivale Poker" 15 >/dev/null
+}
+
+# Ends the program through its Exit button and waits for it; kills it after 10 s.
+app_stop() {
+    [ -n "$APP_PID" ] || return 0
+    local tries=100
+    while kill -0 "$APP_PID" 2>/dev/null && ((tries-- > 0)); do
+        sleep 0.1
+    done
+    if kill -0 "$APP_PID" 2>/dev/null; then
+        desktop_log "the program did not end; killing it"
+        kill "$APP_PID" 2>/dev/null || true
+    fi
+    wait "$APP_PID" 2>/dev/null || true
+    APP_PID=""
+}
+
+# Prints the id of the visible window titled exactly $1, waiting up to $2 seconds (default 10).
+window_id() {
+    local name="$1" seconds="${2:-10}" id=""
+    local tries=$((seconds * 20))
+    while ((tries-- > 0)); do
+        id="$(xdotool search --onlyvisible --name "^${name}\$" 2>/dev/null | head -n1 || true)"
+        if [ -n "$id" ]; then
+            echo "$id"
+            return 0
+        fi
+        sleep 0.05
+    done
+    desktop_log "no window '$name' after ${seconds}s"
+    return 1
+}
+
+# True when no visible window is titled $1 (waits up to $2 seconds for it to go).
+window_gone() {
+    local name="$1" seconds="${2:-10}"
+    local tries=$((seconds * 20))
+    while ((tries-- > 0)); do
+        xdotool search --onlyvisible --name "^${name}\$" >/dev/null 2>&1 || return 0
+        sleep 0.05
+    done
+    return 1
+}
+
+# Sends a key chord (xdotool syntax, e.g. alt+d) to the window titled $1, after focusing it.
+send_keys() {
+    local id
+    id="$(window_id "$1")" || return 1
+    xdotool windowactivate --sync "$id" >/dev/null 2>&1 || xdotool windowfocus --sync "$id"
+    shift
+    xdotool key --clearmodifiers "$@"
+}
+
+# Clicks at x,y of the client area of the window titled $1.
+click_at() {
+    local id
+    id="$(window_id "$1")" || return 1
+    xdotool mousemove --window "$id" "$2" "$3" click 1
+}
+
+# Saves the client area of the window titled $1 to the PNG file $2 (the frame excluded).
+shoot_window() {
+    local id
+    id="$(window_id "$1")" || return 1
+    timeout 20 import -window "$id" "$2"
+}
+
+# Saves window $1 with its window-manager frame (the frame window, found from the client) to $2.
+shoot_framed() {
+    local id frame
+    id="$(window_id "$1")" || return 1
+    frame="$(xwininfo -id "$id" -tree | sed -n 's/^ *Parent window id: \(0x[0-9a-f]*\).*/\1/p' || true)"
+    timeout 20 import -window "${frame:-$id}" "$2"
+}
+
+# Prints the colour at x,y of a PNG as rrggbb.
+pixel_at() {
+    convert "$1" -format "%[fx:int(255*p{$2,$3}.r)],%[fx:int(255*p{$2,$3}.g)],%[fx:int(255*p{$2,$3}.b)]" info: |
+        awk -F, '{ printf "%02x%02x%02x\n", $1, $2, $3 }'
+}

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -95,6 +96,15 @@ StatsWindow::~StatsWindow() {
 void StatsWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     refresh();
+}
+
+// F3, which opened the window from the board, closes it again, as Escape does.
+void StatsWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F3 || event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 // Many events arrive in one hand; the window draws once after them.

@@ -117,6 +117,9 @@ void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
     QVERIFY(window->isVisible());
     openStats(*f.board);
     QVERIFY(!window->isVisible());
+    openStats(*f.board);
+    QTest::keyClick(window, Qt::Key_F3);
+    QVERIFY(!window->isVisible());
 }
 
 void StatsWindowTest::chartHasAPointPerHand() {

@@ -9,25 +9,23 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCloseEvent>
-#include <QDate>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMessageBox>
-#include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStatusBar>
-#include <QTime>
+#include <QShortcutEvent>
 #include <QTimer>
 
 // Marivale
 #include "board/game_board.h"
 #include "board/game_variant.h"
+#include "bonus/design_look.h"
 #include "engine/money_format.h"
 #include "shell/help_dialog.h"
+#include "shell/menu_status_bar.h"
 #include "shell/placement.h"
 
 namespace marivale {
@@ -37,18 +35,23 @@ namespace {
 constexpr std::string_view kTotalPattern = "$#,###,##0.00";
 const QColor kGreen(0, 128, 0);
 
-// The look of the window's own controls: green, white text, white frame lines, 8.25 pt bold
-// (13.5 pt for the title). The buttons keep the system look; the options take their white
-// text from their palette, so that their circles keep the system's colours.
+// The colours of the window's own controls: green, white text, white frame lines. The buttons
+// keep the system look; the options take their white text from their palette, so that their
+// circles keep the system's colours. The texts are in the design face, 8.25 pt bold (13.5 pt
+// for the title), set as fonts.
 constexpr std::string_view kClientStyle =
-    "QWidget { font-size: 8.25pt; font-weight: bold; }"
     "QLabel { color: white; }"
-    "QLabel#Label1 { font-size: 13.5pt; }"
     "QGroupBox { color: white; background: transparent; border: 1px solid white;"
     " border-radius: 3px; margin-top: 7px; }"
     "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }"
     "QLineEdit { color: white; background: rgb(0, 128, 0); border: 1px solid white;"
     " padding: 0 2px; }";
+
+constexpr qreal kTextPoints = 8.25;
+constexpr qreal kTitlePoints = 13.5;
+
+// The design's client area above the status bar: every control lies inside it.
+constexpr QSize kDesignClient{302, 209};
 
 constexpr std::string_view kDoubleUpOff = "Status: DoubleUp Not Enabled";
 constexpr std::string_view kDoubleUpOn = "Status: DoubleUp Enabled";
@@ -174,6 +177,7 @@ void MainMenu::buildControls() {
         auto* button = new QPushButton(text(variant.menuCaption), client);
         button->setObjectName(text(variant.menuButton));
         place(*button, entry.place);
+        button->installEventFilter(this);
         const GameId game = entry.game;
         connect(button, &QPushButton::clicked, this, [this, game] { visitBoard(game); });
     }
@@ -182,37 +186,26 @@ void MainMenu::buildControls() {
         row[i] = new QPushButton(text(kRowButtons[i].caption), client);
         row[i]->setObjectName(text(kRowButtons[i].name));
         place(*row[i], kRowButtons[i].place);
+        row[i]->installEventFilter(this);
     }
     connect(row[0], &QPushButton::clicked, this, &MainMenu::clearTotal);
     connect(row[1], &QPushButton::clicked, this, &MainMenu::showHelp);
     connect(row[2], &QPushButton::clicked, this, &QWidget::close);
+
+    // Each control gets the design face itself: a style sheet rule that matches a control would
+    // otherwise give it a font of its own choosing.
+    for (QWidget* control : client->findChildren<QWidget*>()) {
+        control->setFont(designFont(control == title_ ? kTitlePoints : kTextPoints, true));
+    }
 }
 
+// The status bar, and a window never smaller than the design with its status bar.
 void MainMenu::buildStatusBar() {
-    QStatusBar* bar = statusBar();
-    bar->setObjectName("sbStatusBar");
-    bar->setSizeGripEnabled(false);
-    bar->installEventFilter(this);
-    QFont panelFont = bar->font();
-    panelFont.setPointSizeF(8.25);
-    bar->setFont(panelFont);
-    for (std::size_t i = 0; i < panels_.size(); ++i) {
-        panels_[i] = new QLabel(bar);
-        panels_[i]->setObjectName(QString("sbPanel%1").arg(i + 1));
-        panels_[i]->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        panels_[i]->setContentsMargins(2, 0, 2, 0);
-        panels_[i]->installEventFilter(this);
-        // The status text takes what the date and the clock leave, and gives way rather than
-        // widen the window beyond its design.
-        panels_[i]->setSizePolicy(i == 0 ? QSizePolicy::Ignored : QSizePolicy::Preferred,
-                                  QSizePolicy::Preferred);
-        bar->addPermanentWidget(panels_[i], i == 0 ? 1 : 0);
-    }
-    clock_ = new QTimer(this);
-    clock_->setInterval(1000);
-    connect(clock_, &QTimer::timeout, this, &MainMenu::showClock);
-    showClock();
-    clock_->start();
+    statusBar_ = new MenuStatusBar(this);
+    setStatusBar(statusBar_);
+    connect(statusBar_, &MenuStatusBar::clicked, this, &MainMenu::toggleDoubleUp);
+    setMinimumSize(qMax(kDesignClient.width(), statusBar_->minimumSizeHint().width()),
+                   kDesignClient.height() + statusBar_->sizeHint().height());
 }
 
 // The window's load: placement, Double Up off, then the total or the recovery.
@@ -298,22 +291,16 @@ void MainMenu::showTotal(std::string_view captionAtZero) {
 }
 
 void MainMenu::showDoubleUpStatus() {
-    panels_[0]->setText(text(isSet(state_.DoubleUpEnabled) ? kDoubleUpOn : kDoubleUpOff));
+    statusBar_->showStatus(text(isSet(state_.DoubleUpEnabled) ? kDoubleUpOn : kDoubleUpOff));
 }
 
-void MainMenu::showClock() {
-    const QLocale locale;
-    panels_[1]->setText(locale.toString(QDate::currentDate(), QLocale::ShortFormat));
-    panels_[2]->setText(locale.toString(QTime::currentTime(), QLocale::ShortFormat));
-}
-
+// The access keys of the menu's buttons act at once, as a click does, rather than after the
+// short pressed-down animation a button shows by default.
 bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const auto* mouse = static_cast<QMouseEvent*>(event);
-        const auto* widget = qobject_cast<QWidget*>(watched);
-        if (mouse->button() == Qt::LeftButton && widget != nullptr &&
-            widget->rect().contains(mouse->position().toPoint())) {
-            toggleDoubleUp();
+    if (event->type() == QEvent::Shortcut) {
+        auto* button = qobject_cast<QPushButton*>(watched);
+        if (button != nullptr && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+            button->click();
             return true;
         }
     }
@@ -335,7 +322,6 @@ void MainMenu::closeEvent(QCloseEvent* event) {
     if (!isMinimized()) {
         savePlacement(placementOf(frameGeometry()));
     }
-    clock_->stop();
     event->accept();
     emit closed();
 }

@@ -26,9 +26,10 @@ class QButtonGroup;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
-class QTimer;
 
 namespace marivale {
+
+class MenuStatusBar;
 
 // What the menu asks of the world outside it; an empty member uses the real thing.
 struct MainMenuHooks {
@@ -74,7 +75,6 @@ private:
     void openRealBoard(GameId game);
     void showTotal(std::string_view captionAtZero);
     void showDoubleUpStatus();
-    void showClock();
     void unloadOtherWindows();
     void warnPlayer(const QString& text);
     void fixPlacementOnceFramed();
@@ -94,8 +94,7 @@ private:
     QButtonGroup* playSettings_{nullptr};
     QGroupBox* statFrame_{nullptr};
     QLineEdit* winLoss_{nullptr};
-    std::array<QLabel*, 3> panels_{};
-    QTimer* clock_{nullptr};
+    MenuStatusBar* statusBar_{nullptr};
 };
 
 } // namespace marivale

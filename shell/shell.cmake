@@ -9,7 +9,8 @@ target_link_libraries(marivale_datakeeper PUBLIC Qt6::Core marivale_datafile mar
 target_include_directories(marivale_datakeeper PUBLIC ${PROJECT_SOURCE_DIR})
 
 # The saved placement, the main menu, and closing the program for a logout or a signal.
-add_library(marivale_shell STATIC placement.cpp main_menu.cpp quit_sequence.cpp signal_bridge.cpp)
+add_library(marivale_shell STATIC placement.cpp main_menu.cpp menu_status_bar.cpp quit_sequence.cpp
+                           signal_bridge.cpp)
 target_link_libraries(marivale_shell PUBLIC Qt6::Widgets marivale_datafile marivale_datakeeper
                                             marivale_help marivale_board marivale_engine)
 target_include_directories(marivale_shell PUBLIC ${PROJECT_SOURCE_DIR})

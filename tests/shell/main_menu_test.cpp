@@ -23,6 +23,7 @@
 
 // Marivale
 #include "shell/main_menu.h"
+#include "shell/menu_status_bar.h"
 
 namespace marivale {
 
@@ -38,6 +39,8 @@ private slots:
     void playSettingsSetTheBetUnit();
     void statusBarClicksToggleDoubleUp_data();
     void statusBarClicksToggleDoubleUp();
+    void statusPanelsAreWhole_data();
+    void statusPanelsAreWhole();
     void totalFromTheFile_data();
     void totalFromTheFile();
     void clearShowsStatsAndIsStoredAtExit();
@@ -94,6 +97,7 @@ void MainMenuTest::init() {
 }
 
 void MainMenuTest::cleanup() {
+    QLocale::setDefault(QLocale::system());
     QFile::setPermissions(folder_->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QDir::setCurrent(startDirectory_);
     folder_.reset();
@@ -143,7 +147,7 @@ void MainMenuTest::firstStartCreatesTheFileAndShowsNothingWon() {
     QCOMPARE(state_.DoubleUpEnabled, kFalse);
     QCOMPARE(control<QLabel>(*menu, "sbPanel1")->text(), QString("Status: DoubleUp Not Enabled"));
     QCOMPARE(control<QLabel>(*menu, "sbPanel2")->text(),
-             QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
+             QLocale().toString(QDate::currentDate(), MenuStatusBar::dateFormat(QLocale())));
     QVERIFY(!control<QLabel>(*menu, "sbPanel3")->text().isEmpty());
     QVERIFY(control<QRadioButton>(*menu, "PSettings1")->isChecked());
     QCOMPARE(state_.PlayUnit, 0.25f);
@@ -158,8 +162,10 @@ void MainMenuTest::controlsCarryTheirCaptions() {
     QCOMPARE(menu->windowTitle(), QString("Marivale Poker"));
     const auto* title = control<QLabel>(*menu, "Label1");
     QCOMPARE(title->text(), QString("Marivale Poker"));
+    // The design face whatever the desktop's font: 13.5 pt is 18 pixels at 96 dots per inch.
     QVERIFY(title->font().bold());
-    QCOMPARE(title->font().pointSizeF(), 13.5);
+    QCOMPARE(title->font().family(), QString("Liberation Sans"));
+    QCOMPARE(title->font().pixelSize(), 18);
     QCOMPARE(control<QGroupBox>(*menu, "PlayFrame")->title(), QString("Play Settings"));
     const std::pair<const char*, const char*> captions[] = {
         {"PSettings1", "$0.25 Game"}, {"PSettings2", "$1.00 Game"},
@@ -183,7 +189,11 @@ void MainMenuTest::controlsCarryTheirCaptions() {
             widget->mapTo(client, QPoint(widget->width() - 6, widget->height() - 6));
         QCOMPARE(drawn.pixelColor(inside), green);
         QCOMPARE(widget->palette().color(widget->foregroundRole()), QColor(Qt::white));
-        QVERIFY(widget->font().bold());
+        QVERIFY2(widget->font().bold(), name);
+        QCOMPARE(widget->font().family(), QString("Liberation Sans"));
+        if (widget != title) {
+            QCOMPARE(widget->font().pixelSize(), 11); // 8.25 pt
+        }
     }
     QVERIFY(control<QLineEdit>(*menu, "WinLoss")->isReadOnly());
     QWidget* exit = control<QWidget>(*menu, "ExBtn");
@@ -219,6 +229,57 @@ void MainMenuTest::statusBarClicksToggleDoubleUp() {
     QTest::mouseClick(clicked, Qt::LeftButton);
     QCOMPARE(state_.DoubleUpEnabled, kFalse);
     QCOMPARE(status->text(), QString("Status: DoubleUp Not Enabled"));
+}
+
+void MainMenuTest::statusPanelsAreWhole_data() {
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("desktopPoints");
+    for (const char* name : {"C", "en_US", "en_GB", "de_DE", "fr_FR", "ja_JP", "ru_RU"}) {
+        for (const int points : {9, 12}) {
+            QTest::addRow("%s, desktop font %d pt", name, points) << QString(name) << points;
+        }
+    }
+}
+
+// Every panel shows its whole text, the widest date and times of the locale included, with
+// either Double Up status, whatever the desktop's font; the bar lies below the design.
+void MainMenuTest::statusPanelsAreWhole() {
+    QFETCH(QString, locale);
+    QFETCH(int, desktopPoints);
+    const QFont desktopFont = QApplication::font();
+    QApplication::setFont(QFont("DejaVu Sans", desktopPoints));
+    QLocale::setDefault(QLocale(locale));
+    auto menu = openMenu();
+    QApplication::setFont(desktopFont);
+    const QLocale used;
+    auto* date = control<QLabel>(*menu, "sbPanel2");
+    auto* time = control<QLabel>(*menu, "sbPanel3");
+    const QStringList widest{
+        used.toString(QDate(2026, 12, 28), MenuStatusBar::dateFormat(used)),
+        used.toString(QTime(23, 58), MenuStatusBar::timeFormat(used)),
+        used.toString(QTime(12, 58), MenuStatusBar::timeFormat(used)),
+    };
+    const auto fits = [](const QLabel& panel, const QString& text) {
+        return panel.fontMetrics().horizontalAdvance(text) <= panel.contentsRect().width();
+    };
+    QVERIFY2(fits(*date, widest[0]), qPrintable(widest[0]));
+    QVERIFY2(fits(*time, widest[1]), qPrintable(widest[1]));
+    QVERIFY2(fits(*time, widest[2]), qPrintable(widest[2]));
+    auto* status = control<QLabel>(*menu, "sbPanel1");
+    for (int click = 0; click < 2; ++click) {
+        for (const QLabel* panel : {status, date, time}) {
+            QVERIFY2(fits(*panel, panel->text()), qPrintable(panel->text()));
+            QCOMPARE(panel->font().family(), QString("Liberation Sans"));
+            QVERIFY(panel->geometry().right() < menu->statusBar()->width());
+        }
+        QTest::mouseClick(status, Qt::LeftButton);
+    }
+    const QWidget* exit = control<QWidget>(*menu, "ExBtn");
+    QVERIFY(menu->statusBar()->geometry().top() >=
+            exit->mapTo(menu.get(), QPoint(0, exit->height())).y());
+    if (locale == "C") {
+        QVERIFY(QRegularExpression("^\\d{4}-\\d\\d-\\d\\d$").match(date->text()).hasMatch());
+    }
 }
 
 void MainMenuTest::totalFromTheFile_data() {

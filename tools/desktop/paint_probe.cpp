@@ -50,8 +50,8 @@ std::vector<Point> parsePoints(const char* text) {
         }
         Point p;
         char colour[16] = {0};
-        if (std::sscanf(all.substr(start, end - start).c_str(), "%d:%d:%15s", &p.x, &p.y,
-                        colour) == 3) {
+        if (std::sscanf(all.substr(start, end - start).c_str(), "%d:%d:%15s", &p.x, &p.y, colour) ==
+            3) {
             p.rgb = std::strtoul(colour, nullptr, 16);
             points.push_back(p);
         }
@@ -110,8 +110,7 @@ bool nearColour(unsigned long a, unsigned long b) {
 }
 
 // Reads the points off the screen; true when every one shows its colour.
-bool painted(Display* display, Window window, const std::vector<Point>& points,
-             std::string& seen) {
+bool painted(Display* display, Window window, const std::vector<Point>& points, std::string& seen) {
     XWindowAttributes attributes;
     if (XGetWindowAttributes(display, window, &attributes) == 0) {
         return false;

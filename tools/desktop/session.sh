@@ -102,28 +102,34 @@ desktop_start() {
     desktop_write_openbox_config
     desktop_write_qt6ct_config
 
-    # A display number nobody uses: no lock file and no socket; the next one if Xvfb fails.
-    local number started=""
-    for number in $(seq 140 199); do
-        [ -e "/tmp/.X$number-lock" ] || [ -e "/tmp/.X11-unix/X$number" ] && continue
-        Xvfb ":$number" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
-            >"$DESKTOP_TMP/xvfb.log" 2>&1 &
-        local xvfb=$!
+    # A display number nobody uses (no lock file, no socket), from a random start so that two
+    # desktops started at once rarely meet; a failed start moves on to the next number.
+    local attempt number=$((140 + RANDOM % 100)) xvfb wm
+    for attempt in 1 2 3 4 5; do
+        while [ -e "/tmp/.X$number-lock" ] || [ -e "/tmp/.X11-unix/X$number" ]; do
+            number=$((number + 1))
+        done
         export DISPLAY=":$number"
+        Xvfb "$DISPLAY" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
+            >"$DESKTOP_TMP/xvfb.log" 2>&1 &
+        xvfb=$!
         if desktop_retry 10 xdpyinfo && kill -0 "$xvfb" 2>/dev/null; then
-            DESKTOP_PIDS+=("$xvfb")
-            started=1
-            break
+            openbox --sm-disable --config-file "$DESKTOP_TMP/openbox-rc.xml" \
+                >"$DESKTOP_TMP/openbox.log" 2>&1 &
+            wm=$!
+            if desktop_retry 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'; then
+                DESKTOP_PIDS+=("$xvfb" "$wm")
+                break
+            fi
+            desktop_log "openbox did not start on $DISPLAY: $(head -c 300 "$DESKTOP_TMP/openbox.log")"
+            kill "$wm" 2>/dev/null || true
+            wait "$wm" 2>/dev/null || true
         fi
         kill "$xvfb" 2>/dev/null || true
         wait "$xvfb" 2>/dev/null || true
+        number=$((number + 1))
+        [ "$attempt" -lt 5 ] || { desktop_log "no desktop could be started"; return 1; }
     done
-    [ -n "$started" ] || { desktop_log "Xvfb did not start"; return 1; }
-    openbox --sm-disable --config-file "$DESKTOP_TMP/openbox-rc.xml" \
-        >"$DESKTOP_TMP/openbox.log" 2>&1 &
-    DESKTOP_PIDS+=($!)
-    desktop_retry 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
-        { desktop_log "openbox did not start"; return 1; }
     desktop_log "display $DISPLAY, folder $DESKTOP_TMP"
 }
 

@@ -70,8 +70,8 @@ constexpr int kHeadingGap = 6; // extra space above a heading
 constexpr int kMaxLineGap = 5; // most space added between two items
 constexpr QSize kButtonSize{81, 25};
 
-// Widths to try, widest first: the page was laid out for a narrower face than the design face,
-// so the face is condensed until each line fits on one row.
+// Widths to try, widest first: every line fits the page on one row in the design face; where
+// rounding at some screen scale makes a line too long, the face is condensed a little.
 constexpr std::array<int, 4> kStretches{QFont::Unstretched, 95, 90, QFont::SemiCondensed};
 
 QFont pageFont(bool bold, int stretch) {

@@ -45,20 +45,16 @@ const BoardLook& lookOf(GameId game) {
                          [game](const BoardLook& look) { return look.game == game; });
 }
 
-QString colourText(const QColor& c) {
-    return c.name();
-}
-
 void checkBoard(Visit& v, const QString& where, Faults& faults) {
     const BoardLook& look = lookOf(v.game);
     QWidget& board = *v.board;
     saveShot(board, where);
     faults.whole(where, board);
     const QColor ground = colourAt(board, QPoint(560, 350));
-    faults.expect(where, ground == look.board, QStringLiteral("board is ") + colourText(ground));
+    faults.expect(where, ground == look.board, QStringLiteral("board is ") + ground.name());
     const QColor table =
         colourAt(board, v.placeOf(QStringLiteral("Frame1")).topLeft() + QPoint(2, 2));
-    faults.expect(where, table == kBlack, QStringLiteral("pay table is ") + colourText(table));
+    faults.expect(where, table == kBlack, QStringLiteral("pay table is ") + table.name());
     faults.expect(where, showsColour(board, v.placeOf(QStringLiteral("Label1")), kWhite),
                   QStringLiteral("title is not white"));
     faults.expect(where, showsColour(board, v.placeOf(QStringLiteral("PurchasedLabel")), kWhite),
@@ -88,7 +84,7 @@ void checkHelp(QWidget& help, const QString& where, Faults& faults) {
     saveShot(help, where);
     faults.whole(where, help);
     const QColor page = colourAt(help, QPoint(2, 2));
-    faults.expect(where, page == kWhite, QStringLiteral("page is ") + colourText(page));
+    faults.expect(where, page == kWhite, QStringLiteral("page is ") + page.name());
     for (int n = 1; n <= 21; ++n) {
         auto* label = help.findChild<QLabel*>(QStringLiteral("Label%1").arg(n));
         faults.expect(where, label != nullptr && label->isVisible(),
@@ -112,7 +108,7 @@ void checkDoubleUp(QWidget& dup, const QString& where, Faults& faults) {
     faults.whole(where, dup);
     const QColor ground = colourAt(dup, QPoint(4, dup.height() / 2));
     faults.expect(where, ground == QColor(255, 255, 0),
-                  QStringLiteral("ground is ") + colourText(ground));
+                  QStringLiteral("ground is ") + ground.name());
     auto* title = dup.findChild<QWidget*>(QStringLiteral("Label1"));
     faults.expect(where, showsColour(dup, title->geometry(), kBlack, 40),
                   QStringLiteral("title is not black"));
@@ -122,8 +118,7 @@ void checkTreasureHunt(QWidget& hunt, const QString& where, Faults& faults) {
     saveShot(hunt, where);
     faults.whole(where, hunt);
     const QColor ground = colourAt(hunt, QPoint(4, 4));
-    faults.expect(where, ground == QColor(0, 0, 192),
-                  QStringLiteral("ground is ") + colourText(ground));
+    faults.expect(where, ground == QColor(0, 0, 192), QStringLiteral("ground is ") + ground.name());
     auto* title = hunt.findChild<QWidget*>(QStringLiteral("Label1"));
     faults.expect(where, showsColour(hunt, title->geometry(), kWhite),
                   QStringLiteral("title is not white"));

@@ -9,6 +9,7 @@
 #include <QAbstractItemModel>
 #include <QChart>
 #include <QChartView>
+#include <QCheckBox>
 #include <QFile>
 #include <QScatterSeries>
 #include <QTableView>
@@ -80,6 +81,7 @@ private slots:
     void chartHasAPointPerHand();
     void historyNewestFirstAndExportReadsBack();
     void runFiguresOutliveABoard();
+    void trainerModeCountsMistakes();
     void textsWholeAndReadable();
 };
 
@@ -207,6 +209,23 @@ void StatsWindowTest::runFiguresOutliveABoard() {
     QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
     QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
     QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
+}
+
+// Hands played while the Strategy window's trainer mode is on count their mistakes and cost.
+void StatsWindowTest::trainerModeCountsMistakes() {
+    BoardFixture f(GameId::JacksOrBetter);
+    f.buy(4);
+    playHand(f, "As Ks Qs Js 2c"); // before trainer mode: not counted
+    QTest::keyClick(f.board.get(), Qt::Key_F2);
+    auto* trainer = f.board->findChild<QCheckBox*>(QStringLiteral("Trainer"));
+    QVERIFY(trainer != nullptr);
+    trainer->setChecked(true);
+    playHand(f, "As Ks Qs Js 2c");          // gives up four to the royal: $1.67 at $0.25
+    playHand(f, "Ac Ad Ah As 7c", 0b01111); // the best hold
+    StatsWindow* window = openStats(*f.board);
+    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
+    QCOMPARE(summary(*window, SummaryRow::Mistakes, kVisitColumn), QStringLiteral("1"));
+    QCOMPARE(summary(*window, SummaryRow::MistakeCost, kRunColumn), QStringLiteral("$1.67"));
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the

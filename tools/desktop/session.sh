@@ -130,6 +130,14 @@ desktop_start() {
         number=$((number + 1))
         [ "$attempt" -lt 5 ] || { desktop_log "no desktop could be started"; return 1; }
     done
+    # A session bus, as every desktop has one; without it Qt waits for a bus it cannot find.
+    if command -v dbus-daemon >/dev/null; then
+        dbus-daemon --session --nofork --nopidfile --address="unix:path=$XDG_RUNTIME_DIR/bus" \
+            >"$DESKTOP_TMP/dbus.log" 2>&1 &
+        DESKTOP_PIDS+=($!)
+        export DBUS_SESSION_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/bus"
+        desktop_retry 5 test -S "$XDG_RUNTIME_DIR/bus" || desktop_log "no session bus"
+    fi
     desktop_log "display $DISPLAY, folder $DESKTOP_TMP"
 }
 
@@ -206,16 +214,17 @@ window_gone() {
 send_keys() {
     local id
     id="$(window_id "$1")" || return 1
-    xdotool windowactivate --sync "$id" >/dev/null 2>&1 || xdotool windowfocus --sync "$id"
+    timeout 5 xdotool windowactivate --sync "$id" >/dev/null 2>&1 ||
+        timeout 5 xdotool windowfocus --sync "$id" >/dev/null 2>&1 || true
     shift
-    xdotool key --clearmodifiers "$@"
+    timeout 10 xdotool key --clearmodifiers "$@"
 }
 
 # Clicks at x,y of the client area of the window titled $1.
 click_at() {
     local id
     id="$(window_id "$1")" || return 1
-    xdotool mousemove --window "$id" "$2" "$3" click 1
+    timeout 10 xdotool mousemove --window "$id" "$2" "$3" click 1
 }
 
 # Saves the client area of the window titled $1 to the PNG file $2 (the frame excluded).
@@ -237,4 +246,36 @@ shoot_framed() {
 pixel_at() {
     convert "$1" -format "%[fx:int(255*p{$2,$3}.r)],%[fx:int(255*p{$2,$3}.g)],%[fx:int(255*p{$2,$3}.b)]" info: |
         awk -F, '{ printf "%02x%02x%02x\n", $1, $2, $3 }'
+}
+
+# True when the colour at x,y of the PNG $1 is within 12 per channel of rrggbb $4.
+colour_near() {
+    local seen
+    seen="$(pixel_at "$1" "$2" "$3")"
+    local i a b
+    for i in 0 2 4; do
+        a=$((16#${seen:$i:2}))
+        b=$((16#${4:$i:2}))
+        if ((a - b > 12 || b - a > 12)); then
+            return 1
+        fi
+    done
+}
+
+# Buys credits on the board titled $1 and plays hands, standing on each deal, until one pays
+# with Double Up switched on and the Double Up window opens; at most $2 hands. In phase 0 the
+# board's "&Deal" takes Alt+D; after a paying stand the same key is "&Double      Up".
+play_until_double_up() {
+    local board="$1" tries="$2"
+    send_keys "$board" alt+p
+    sleep 0.3
+    while ((tries-- > 0)); do
+        send_keys "$board" alt+d
+        if window_id "Double Up" 1 >/dev/null 2>&1; then
+            return 0
+        fi
+        send_keys "$board" alt+s
+        sleep 0.3
+    done
+    return 1
 }

@@ -1,0 +1,114 @@
+#!/usr/bin/env bash
+# The real program on a real X server with a window manager (Xvfb and openbox), driven through
+# its access keys as a player would: the menu, help, and each board with its help, its Strategy
+# window and, on Jacks or Better, Double Up. Every window is photographed and its colours are
+# checked at sample points. Exits 77 (skipped) when the desktop tools are missing.
+set -uo pipefail
+source "$(dirname "$0")/../../tools/desktop/session.sh"
+
+for tool in Xvfb openbox xdotool import convert xdpyinfo xprop xwininfo; do
+    command -v "$tool" >/dev/null || { echo "SKIP: $tool is not installed"; exit 77; }
+done
+SHOTS="${MARIVALE_SHOTS:-$PWD/desktop-shots}"
+rm -rf "$SHOTS"
+mkdir -p "$SHOTS"
+FAILURES=0
+
+fail() {
+    echo "FAIL: $*"
+    FAILURES=$((FAILURES + 1))
+}
+
+# expect WINDOW SHOT-NAME then pairs "x,y=rrggbb" with a label each: photographs the window's
+# client area and checks the colours.
+expect() {
+    local window="$1" shot="$SHOTS/$2.png"
+    shift 2
+    if ! shoot_window "$window" "$shot"; then
+        fail "no picture of '$window'"
+        return
+    fi
+    local check xy colour label
+    while (($# >= 2)); do
+        check="$1"
+        label="$2"
+        shift 2
+        xy="${check%=*}"
+        colour="${check#*=}"
+        if colour_near "$shot" "${xy%,*}" "${xy#*,}" "$colour"; then
+            echo "ok: $window $label is #$colour"
+        else
+            fail "$window $label at $xy is #$(pixel_at "$shot" "${xy%,*}" "${xy#*,}"), not #$colour"
+        fi
+    done
+}
+
+# Opens a window by a key chord on another and waits for it; a missing window is a failure.
+open_by_key() {
+    local from="$1" key="$2" name="$3"
+    send_keys "$from" "$key"
+    window_id "$name" 10 >/dev/null || { fail "$key on '$from' did not open '$name'"; return 1; }
+    sleep 0.4
+}
+
+close_by_key() {
+    local window="$1" key="$2"
+    send_keys "$window" "$key"
+    window_gone "$window" 10 || fail "$key did not close '$window'"
+}
+
+desktop_start || { echo "SKIP: no desktop could be started"; exit 77; }
+app_start || { fail "the main menu did not appear"; exit 1; }
+sleep 0.5
+expect "Marivale Poker" menu 4,4=008000 "window" 150,40=008000 "title" \
+    136,155=008000 "total frame"
+
+open_by_key "Marivale Poker" alt+h "Marivale Poker Help" &&
+    expect "Marivale Poker Help" help-from-menu 4,4=ffffff "page" &&
+    close_by_key "Marivale Poker Help" alt+o
+
+# Double Up on: a click on the status bar.
+read -r MENU_H < <(identify -format "%h\n" "$SHOTS/menu.png")
+click_at "Marivale Poker" 20 $((MENU_H - 6))
+sleep 0.3
+
+# key|caption|board colour
+BOARDS=("alt+t|Treasure Trips|000080" "alt+d|Deuces Wild|008000" "alt+j|Wild Joker|800000"
+    "alt+k|Jacks or Better|008080")
+for entry in "${BOARDS[@]}"; do
+    IFS='|' read -r key name colour <<<"$entry"
+    slug="$(tr ' A-Z' '-a-z' <<<"$name")"
+    open_by_key "Marivale Poker" "$key" "$name" || continue
+    expect "$name" "$slug" 4,4=$colour "window" 12,196=000000 "pay table" \
+        420,312=000000 "message line" 300,440=$colour "statistics frame"
+    if open_by_key "$name" alt+h "Marivale Poker Help"; then
+        expect "Marivale Poker Help" "help-from-$slug" 4,4=ffffff "page" 300,200=ffffff "page"
+        close_by_key "Marivale Poker Help" alt+o
+    fi
+    if open_by_key "$name" F2 "Strategy"; then
+        shoot_window "Strategy" "$SHOTS/strategy-$slug.png"
+        # Legible: a light page, not the board's colour.
+        expect "Strategy" "strategy-$slug" 4,4=efefef "page"
+    fi
+    if [ "$name" = "Jacks or Better" ]; then
+        if play_until_double_up "$name" 40; then
+            expect "Double Up" double-up 4,4=ffff00 "window"
+            send_keys "Double Up" alt+l
+            sleep 0.4
+            close_by_key "Double Up" alt+t
+        else
+            echo "SKIP: no paying hand in 40 deals, so Double Up was not opened"
+        fi
+    fi
+    close_by_key "$name" alt+x
+    window_id "Marivale Poker" 10 >/dev/null || fail "the menu did not come back after $name"
+done
+
+close_by_key "Marivale Poker" alt+x
+app_stop
+[ -s "$DESKTOP_TMP/work/mpdata.dat" ] || fail "the total was not written to mpdata.dat"
+if ((FAILURES > 0)); then
+    echo "$FAILURES check(s) failed; pictures in $SHOTS"
+    exit 1
+fi
+echo "all desktop checks passed; pictures in $SHOTS"

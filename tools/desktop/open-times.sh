@@ -34,7 +34,7 @@ points_from() {
 }
 
 focus_menu() {
-    xdotool windowactivate --sync "$(window_id "Marivale Poker")" >/dev/null 2>&1 || true
+    timeout 5 xdotool windowactivate --sync "$(window_id "Marivale Poker")" >/dev/null 2>&1 || true
     sleep 0.3
 }
 

@@ -57,11 +57,23 @@ close_by_key() {
     window_gone "$window" 10 || fail "$key did not close '$window'"
 }
 
+# A tall title bar and thick borders, as on desktops with large title fonts: the menu must still
+# show its whole design above its status bar.
+export MARIVALE_TITLE_PT="${MARIVALE_TITLE_PT:-18}" MARIVALE_BORDER="${MARIVALE_BORDER:-8}"
 desktop_start || { echo "SKIP: no desktop could be started"; exit 77; }
 app_start || { fail "the main menu did not appear"; exit 1; }
 sleep 0.5
 expect "Marivale Poker" menu 4,4=008000 "window" 150,40=008000 "title" \
     136,155=008000 "total frame"
+
+# The green runs down the left edge to below the bottom row of buttons (which ends 205 pixels
+# down); only then does the status bar begin.
+GREEN_ROWS="$(convert "$SHOTS/menu.png" -crop 1x400+4+0 txt:- | grep -ci '#008000')"
+if ((GREEN_ROWS >= 207)); then
+    echo "ok: the status bar begins below the buttons ($GREEN_ROWS green rows)"
+else
+    fail "the status bar covers the menu's buttons: only $GREEN_ROWS green rows"
+fi
 
 open_by_key "Marivale Poker" alt+h "Marivale Poker Help" &&
     expect "Marivale Poker Help" help-from-menu 4,4=ffffff "page" &&

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -28,6 +29,7 @@ private slots:
 
     void nothingStoredGivesTheDesignedPlacement();
     void storedPlacementIsApplied();
+    void smallStoredSizeStillShowsTheWholeDesign();
     void closeStoresThePlacementInTwips();
     void unchangedPlacementIsStoredUnchanged();
     void valueThatIsNotANumberFallsBack_data();
@@ -108,6 +110,19 @@ void PlacementTest::storedPlacementIsApplied() {
     store({"1500", "1800", "6000", "4500"});
     auto menu = openMenu();
     QCOMPARE(menu->frameGeometry(), QRect(100, 120, 400, 300));
+}
+
+// However small the stored size, the menu keeps room for every control above its status bar.
+void PlacementTest::smallStoredSizeStillShowsTheWholeDesign() {
+    store({"1500", "1800", "600", "450"});
+    auto menu = openMenu();
+    QCOMPARE(menu->frameGeometry().topLeft(), QPoint(100, 120));
+    const QWidget* exit = menu->findChild<QWidget*>("ExBtn");
+    QVERIFY(exit != nullptr);
+    const QRect exitPlace(exit->mapTo(menu.get(), QPoint(0, 0)), exit->size());
+    QVERIFY(exitPlace.right() < menu->width());
+    QVERIFY(menu->statusBar()->geometry().top() > exitPlace.bottom());
+    QCOMPARE(menu->statusBar()->geometry().bottom(), menu->height() - 1);
 }
 
 void PlacementTest::closeStoresThePlacementInTwips() {

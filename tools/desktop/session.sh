@@ -10,6 +10,7 @@
 #   MARIVALE_FONT_PT     the desktop's default font size through the qt6ct platform theme
 #   MARIVALE_FONT_FAMILY the desktop's default font family with qt6ct (default DejaVu Sans)
 #   MARIVALE_SCREEN      the screen size (default 1280x1024)
+#   MARIVALE_SESSION_BUS 0: no D-Bus session bus (default 1: a private one, as on a desktop)
 # LANG and LC_ALL pass through to the program as the player's locale.
 
 DESKTOP_REPO="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
@@ -131,7 +132,7 @@ desktop_start() {
         [ "$attempt" -lt 5 ] || { desktop_log "no desktop could be started"; return 1; }
     done
     # A session bus, as every desktop has one; without it Qt waits for a bus it cannot find.
-    if command -v dbus-daemon >/dev/null; then
+    if [ "${MARIVALE_SESSION_BUS:-1}" = 1 ] && command -v dbus-daemon >/dev/null; then
         dbus-daemon --session --nofork --nopidfile --address="unix:path=$XDG_RUNTIME_DIR/bus" \
             >"$DESKTOP_TMP/dbus.log" 2>&1 &
         DESKTOP_PIDS+=($!)

@@ -94,7 +94,7 @@ for entry in "${BOARDS[@]}"; do
     expect "$name" "$slug" 4,4=$colour "window" 12,196=000000 "pay table" \
         420,312=000000 "message line" 300,440=$colour "statistics frame"
     if open_by_key "$name" alt+h "Marivale Poker Help"; then
-        expect "Marivale Poker Help" "help-from-$slug" 4,4=ffffff "page" 300,200=ffffff "page"
+        expect "Marivale Poker Help" "help-from-$slug" 4,4=ffffff "page" 450,200=ffffff "page"
         close_by_key "Marivale Poker Help" alt+o
     fi
     if open_by_key "$name" F2 "Strategy"; then

@@ -4,11 +4,9 @@
 #include <algorithm>
 
 // Qt
-#include <QFile>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 
 // Marivale
@@ -17,14 +15,10 @@
 #include "engine/bonus_games.h"
 #include "engine/money_format.h"
 
-#ifdef MARIVALE_HAVE_CHEST_ART
 // The chest pictures are compiled into this library; a static library must load them itself.
 static void initChestArt() {
     Q_INIT_RESOURCE(bonus);
 }
-#else
-static void initChestArt() {}
-#endif
 
 namespace marivale {
 
@@ -43,37 +37,12 @@ constexpr int kChestSize = 32;
 const QString kChestResource = QStringLiteral(":/chest.png");
 const QString kChestResource2x = QStringLiteral(":/chest@2x.png");
 
-// A stand-in chest in grey tones on white, drawn when the chest artwork is not built in.
-QPixmap drawChest(qreal ratio) {
-    QPixmap pixmap(QSize(kChestSize, kChestSize) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::white);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(60, 60, 60), 1.0));
-    painter.setBrush(QColor(150, 150, 150));
-    painter.drawRect(QRectF(4.5, 14.5, 23, 13)); // body
-    painter.setBrush(QColor(190, 190, 190));
-    painter.drawRoundedRect(QRectF(4.5, 7.5, 23, 8), 3.5, 3.5); // lid
-    painter.setBrush(QColor(90, 90, 90));
-    painter.drawRect(QRectF(4.5, 15.5, 23, 2)); // band
-    painter.setBrush(QColor(235, 235, 235));
-    painter.drawRect(QRectF(14.0, 14.0, 4, 5)); // lock
-    return pixmap;
-}
-
+// The chest picture at both pixel densities, from the pictures compiled into this library.
 QIcon chestIcon() {
     initChestArt();
     QIcon icon;
-    if (QFile::exists(kChestResource)) {
-        icon.addFile(kChestResource);
-        if (QFile::exists(kChestResource2x)) {
-            icon.addFile(kChestResource2x);
-        }
-        return icon;
-    }
-    icon.addPixmap(drawChest(1.0));
-    icon.addPixmap(drawChest(2.0));
+    icon.addFile(kChestResource);
+    icon.addFile(kChestResource2x);
     return icon;
 }
 

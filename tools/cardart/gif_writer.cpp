@@ -91,9 +91,6 @@ bool writeGif(const QImage& image, const QString& path) {
         ok = EGifPutLine(gif, &indices[static_cast<std::size_t>(y) * width], width) == GIF_OK;
     }
     ok = EGifCloseFile(gif, &error) == GIF_OK && ok;
-    // Qt
-#include <QFile>
-
     // giflib creates the file readable by its owner only; pictures are for everyone to read.
     return ok && QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner |
                                                  QFile::ReadGroup | QFile::ReadOther);

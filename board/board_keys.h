@@ -12,8 +12,8 @@ class QWidget;
 
 namespace marivale {
 
-// Makes no board button a default one, so Enter reaches the board, and names the keys in the
-// tooltips of the cards and DrawDeal.
+// Makes no board button a default one, so Enter reaches the board, lets every access key click
+// at once, and names the keys in the tooltips of the cards and DrawDeal.
 void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets);
 
 // Plays a key as the click it stands for; true when the key is one of the board's. A disabled

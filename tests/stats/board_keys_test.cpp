@@ -26,6 +26,7 @@ private slots:
     void enterPlaysEveryPhase();
     void enterNeverReachesTheFocusedControl();
     void keysDoNoMoreThanAClick();
+    void accessKeysActAtOnce();
     void tooltipsNameTheKeys();
 };
 
@@ -141,6 +142,18 @@ void BoardKeysTest::keysDoNoMoreThanAClick() {
     QKeyEvent repeatEnter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(f.board.get(), &repeatEnter);
     QCOMPARE(f.state.DrawPhase, 1);
+}
+
+// Alt+P then Enter at typing speed buys the credits before it deals.
+void BoardKeysTest::accessKeysActAtOnce() {
+    BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
+    QApplication::setActiveWindow(f.board.get());
+    f.script("2c 5d 9h Js Kd");
+    QTest::keyClick(f.board.get(), Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(f.board.get(), Qt::Key_Return);
+    QCOMPARE(f.state.TotalPurchased, 20.0f);
+    QCOMPARE(f.state.DrawPhase, 1);
+    QCOMPARE(f.text("Credit"), QStringLiteral("$19.00"));
 }
 
 void BoardKeysTest::tooltipsNameTheKeys() {

@@ -54,8 +54,8 @@ public:
     // The purchase option selected, 0..7.
     virtual int selectedPurchase() const = 0;
 
-    virtual void showCards() = 0;
-    virtual void showCardBacks() = 0;
+    virtual void ShowCards() = 0;
+    virtual void ShowCardBacks() = 0;
     virtual void bell(BellCommand command) = 0;
 
     // Shows the Double Up window modally; it leaves its result in DoubleUpFactor.

@@ -52,8 +52,8 @@ public:
     void setEnabled(Control control, bool enabled) override;
     void setPayText(int row, std::string_view text) override;
     int selectedPurchase() const override;
-    void showCards() override;
-    void showCardBacks() override;
+    void ShowCards() override;
+    void ShowCardBacks() override;
     void bell(BellCommand command) override;
     void runDoubleUp() override;
     BonusGame& treasureHunt() override { return *this; }
@@ -171,7 +171,7 @@ int GameBoard::Impl::selectedPurchase() const {
     return -1;
 }
 
-void GameBoard::Impl::showCards() {
+void GameBoard::Impl::ShowCards() {
     for (int p = 0; p < 5; ++p) {
         const int code = static_cast<int>(state_.Hand[p]);
         pictures_.showOn(*widgets_.cards[p],
@@ -180,7 +180,7 @@ void GameBoard::Impl::showCards() {
     checkPictures();
 }
 
-void GameBoard::Impl::showCardBacks() {
+void GameBoard::Impl::ShowCardBacks() {
     for (QPushButton* card : widgets_.cards) {
         pictures_.showOn(*card, QString::fromLatin1(kCardBackFile.data(), kCardBackFile.size()));
     }

@@ -43,7 +43,7 @@ HandCards PlayController::cards() const {
     return codes;
 }
 
-void PlayController::showPayTable() {
+void PlayController::ShowPayTable() {
     const PayTable& table = payTable(variant_.game);
     for (int row = 0; row < kPayRows; ++row) {
         view_.setPayText(row, FormatMoney(state_.*table[row].field, table[row].pattern));
@@ -80,12 +80,12 @@ void PlayController::load() {
     state_.TotalPurchased = 0.0f;
     state_.GameWinnings = 0.0f;
     ComputePayouts(state_, variant_.game);
-    showPayTable();
+    ShowPayTable();
     showMoney(Control::TotPurchased, 0.0f, pattern::kStatistic);
     showMoney(Control::TotWinGame, 0.0f, pattern::kStatistic);
     showMoney(Control::ProfLoss, 0.0f, pattern::kStatistic);
     view_.bell(BellCommand::Open);
-    view_.showCardBacks();
+    view_.ShowCardBacks();
     observer_->visitStarted(variant_.game, state_.Credits);
 }
 
@@ -159,7 +159,7 @@ void PlayController::setMoneyButtonsEnabled(bool enabled) {
 void PlayController::deal() {
     if (state_.Credits < state_.BetAmount) {
         view_.setText(Control::Output2, kNotEnoughCredits);
-        view_.showCardBacks();
+        view_.ShowCardBacks();
         return;
     }
     state_.Credits = state_.Credits - state_.BetAmount;
@@ -171,7 +171,7 @@ void PlayController::deal() {
     view_.setText(Control::Output2, "");
     setMoneyButtonsEnabled(false);
     DealCards(state_, variant_.game, random_);
-    view_.showCards();
+    view_.ShowCards();
     state_.DrawPhase = 1;
     view_.setText(Control::DrawDeal, "D&raw");
     view_.setText(Control::Stand, "&Stand");
@@ -187,7 +187,7 @@ void PlayController::draw() {
     view_.handPlayed(held);
     observer_->held(held);
     DealCards(state_, variant_.game, random_);
-    view_.showCards();
+    view_.ShowCards();
     const HandCards finalCards = cards();
     analysis_ = AnalyzeHand(state_, variant_.game);
     state_.HandRank = analysis_.code;
@@ -220,7 +220,7 @@ void PlayController::finishHand() {
         return;
     }
     if (state_.HandRank != 0) {
-        announceHand();
+        AnnounceHand();
         settleHand();
     }
     endHand();
@@ -228,7 +228,7 @@ void PlayController::finishHand() {
 }
 
 void PlayController::takeScore() {
-    announceHand();
+    AnnounceHand();
     settleHand();
     endHand();
 }
@@ -237,9 +237,9 @@ void PlayController::takeScore() {
 void PlayController::doubleUp() {
     view_.runDoubleUp();
     observer_->doubled(state_.DoubleUpFactor);
-    view_.showCardBacks();
+    view_.ShowCardBacks();
     if (state_.DoubleUpFactor > 0) {
-        announceHand();
+        AnnounceHand();
         settleHand();
         state_.DoubleUpFactor = 0;
     }
@@ -247,7 +247,7 @@ void PlayController::doubleUp() {
 }
 
 // Names the paying hand and rings the bell once.
-void PlayController::announceHand() {
+void PlayController::AnnounceHand() {
     if (state_.HandRank == 0) {
         return;
     }
@@ -264,7 +264,7 @@ void PlayController::settleHand() {
     }
     if (settlement.bonusPlayed) {
         observer_->bonus(state_.BonusAmount);
-        view_.showCardBacks();
+        view_.ShowCardBacks();
     }
     showMoney(Control::Credit, state_.Credits, pattern::kCredit);
     showMoney(Control::Win, state_.WinAmount, settlement.winPattern);
@@ -317,7 +317,7 @@ void PlayController::betUpClicked() {
     state_.BetAmount = state_.BetAmount + state_.PlayUnit;
     showMoney(Control::Bet, state_.BetAmount, pattern::kBet);
     ComputePayouts(state_, variant_.game);
-    showPayTable();
+    ShowPayTable();
     view_.betChanged();
 }
 
@@ -328,7 +328,7 @@ void PlayController::betDnClicked() {
     state_.BetAmount = state_.BetAmount - state_.PlayUnit;
     showMoney(Control::Bet, state_.BetAmount, pattern::kBet);
     ComputePayouts(state_, variant_.game);
-    showPayTable();
+    ShowPayTable();
     view_.betChanged();
 }
 

@@ -44,14 +44,14 @@ private:
     void cashOut();
     // After a draw or a stand: offer Double Up, or pay the hand and end it.
     void finishHand();
-    void announceHand();
+    void AnnounceHand();
     void settleHand();
     void clearHolds();
     void endHand();
     void enterDoubleUp();
     void setMoneyButtonsEnabled(bool enabled);
     void showMoney(Control control, float value, std::string_view pattern);
-    void showPayTable();
+    void ShowPayTable();
     void showNet(std::string_view pattern);
     HandCards cards() const;
     void reportDrawn(const HandCards& finalCards);

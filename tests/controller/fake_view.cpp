@@ -19,7 +19,7 @@ bool FakeView::enabled(Control control) const {
     return found == enabled_.end() || found->second;
 }
 
-void FakeView::showCardBacks() {
+void FakeView::ShowCardBacks() {
     faceUp = false;
     ++backsShown;
 }

@@ -19,8 +19,8 @@ public:
     void setEnabled(Control control, bool enabled) override { enabled_[control] = enabled; }
     void setPayText(int row, std::string_view text) override { pay.at(row) = std::string(text); }
     int selectedPurchase() const override { return purchaseOption; }
-    void showCards() override { faceUp = true; }
-    void showCardBacks() override;
+    void ShowCards() override { faceUp = true; }
+    void ShowCardBacks() override;
     void bell(BellCommand command) override { bells.push_back(command); }
     void runDoubleUp() override;
     BonusGame& treasureHunt() override { return *this; }

@@ -11,52 +11,71 @@ namespace marivale {
 namespace {
 
 // The four boards, in GameId order: identity, look and the menu's caption rule.
-constexpr std::array<GameVariant, 4> kVariants{{
-    {GameId::TreasureTrips,
-     "TTBoard",
-     "Treasure Trips",
-     "Treasure Trips",
-     "Label10",
-     "Win Bonus for 3 or More 3's",
-     "TTBtn",
-     "&Treasure Trips",
-     {0, 0, 128},
-     {0, 255, 255},
-     "Stat"},
-    {GameId::DeucesWild,
-     "DWBoard",
-     "Deuces Wild",
-     "Deuces Wild",
-     "",
-     "",
-     "DWBtn",
-     "&Deuces Wild",
-     {0, 128, 0},
-     {0, 255, 0},
-     "Stat"},
-    {GameId::JokerWild,
-     "WJBoard",
-     "Wild Joker",
-     "Joker Wild",
-     "Label31",
-     "Deck Includes 1 Joker",
-     "WJBtn",
-     "&Joker Wild",
-     {128, 0, 0},
-     {192, 0, 0},
-     "Stats"},
-    {GameId::JacksOrBetter,
-     "JBBoard",
-     "Jacks or Better",
-     "Jacks or Better",
-     "Label10",
-     "Pays For Pair Jacks or More",
-     "JBBtn",
-     "Jac&ks or Better",
-     {0, 128, 128},
-     {0, 192, 192},
-     "Stats"},
+constexpr std::array<GameVariant, kGameCount> kVariants{{
+    {
+        .game = GameId::TreasureTrips,
+        .boardName = "TTBoard",
+        .windowCaption = "Treasure Trips",
+        .title = "Treasure Trips",
+        .noteName = "Label10",
+        .noteText = "Win Bonus for 3 or More 3's",
+        .menuButton = "TTBtn",
+        .menuCaption = "&Treasure Trips",
+        .boardColour = {0, 0, 128},
+        .displayColour = {0, 255, 255},
+        .statCaptionAtZero = "Stat",
+    },
+    {
+        .game = GameId::DeucesWild,
+        .boardName = "DWBoard",
+        .windowCaption = "Deuces Wild",
+        .title = "Deuces Wild",
+        .noteName = "",
+        .noteText = "",
+        .menuButton = "DWBtn",
+        .menuCaption = "&Deuces Wild",
+        .boardColour = {0, 128, 0},
+        .displayColour = {0, 255, 0},
+        .statCaptionAtZero = "Stat",
+    },
+    {
+        .game = GameId::JokerWild,
+        .boardName = "WJBoard",
+        .windowCaption = "Wild Joker",
+        .title = "Joker Wild",
+        .noteName = "Label31",
+        .noteText = "Deck Includes 1 Joker",
+        .menuButton = "WJBtn",
+        .menuCaption = "&Joker Wild",
+        .boardColour = {128, 0, 0},
+        .displayColour = {192, 0, 0},
+        .statCaptionAtZero = "Stats",
+    },
+    {
+        .game = GameId::JacksOrBetter,
+        .boardName = "JBBoard",
+        .windowCaption = "Jacks or Better",
+        .title = "Jacks or Better",
+        .noteName = "Label10",
+        .noteText = "Pays For Pair Jacks or More",
+        .menuButton = "JBBtn",
+        .menuCaption = "Jac&ks or Better",
+        .boardColour = {0, 128, 128},
+        .displayColour = {0, 192, 192},
+        .statCaptionAtZero = "Stats",
+    },
 }};
+
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < kVariants.size(); ++i) {
+            if (kVariants[i].game != static_cast<GameId>(i)) {
+                return false;
+            }
+        }
+        return true;
+    }(),
+    "every board sits at its GameId");
 
 } // namespace
 
@@ -66,11 +85,9 @@ const GameVariant& variantFor(GameId game) {
 
 std::string pictureFileName(GameId game, int code) {
     std::string name = std::to_string(code);
-    if (game == GameId::TreasureTrips && rankOf(code) == Rank::Three && code != kJoker) {
-        return name + "T.gif";
-    }
-    if (game == GameId::DeucesWild && rankOf(code) == Rank::Two) {
-        return name + "W.gif";
+    const PictureSuffix suffix = facts(game).pictureSuffix;
+    if (suffix.letter != '\0' && code != kJoker && rankOf(code) == suffix.rank) {
+        name += suffix.letter;
     }
     return name + ".gif";
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// What differs between the four boards, as data: one descriptor per game.
+// How the four boards look and present themselves, as data: one descriptor per game.
 
 #include <array>
 #include <cstdint>
@@ -33,8 +33,8 @@ struct GameVariant {
 
 const GameVariant& variantFor(GameId game);
 
-// The file name of a card's picture on this board: "41T.gif" for a Three on Treasure Trips,
-// "1W.gif" for a Two on Deuces Wild, otherwise the code and ".gif".
+// The file name of a card's picture on this board: the code, the game's picture suffix on the
+// cards that carry it ("41T.gif" for a Three on Treasure Trips), and ".gif".
 std::string pictureFileName(GameId game, int code);
 
 inline constexpr std::string_view kCardBackFile = "bb.gif";

@@ -213,7 +213,7 @@ void PlayController::reportDrawn(const HandCards& finalCards) {
 }
 
 void PlayController::finishHand() {
-    const bool bonusBlocks = variant_.game == GameId::TreasureTrips && isSet(state_.BonusDue);
+    const bool bonusBlocks = facts(variant_.game).bonus != Bonus::None && isSet(state_.BonusDue);
     if (state_.HandRank != 0 && isSet(state_.DoubleUpEnabled) && !bonusBlocks) {
         enterDoubleUp();
         clearHolds();

@@ -1,42 +1,67 @@
 #pragma once
 
-// The four games and what the engine needs to know of each: its deck and its wild cards.
+// The four games and every fact the engine knows of each, in one table indexed by GameId.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
+
+#include "engine/card.h"
+#include "engine/hand_codes.h"
+#include "engine/pay_row.h"
 
 namespace marivale {
 
-enum class GameId : std::uint8_t { TreasureTrips, DeucesWild, JokerWild, JacksOrBetter };
+enum class GameId : std::uint8_t { TreasureTrips, DeucesWild, JokerWild, JacksOrBetter, Count };
+
+inline constexpr std::size_t kGameCount = static_cast<std::size_t>(GameId::Count);
 
 // The four games in the order the tools list them.
-inline constexpr std::array<GameId, 4> kAllGames{GameId::JacksOrBetter, GameId::DeucesWild,
-                                                 GameId::JokerWild, GameId::TreasureTrips};
+inline constexpr std::array<GameId, kGameCount> kAllGames{GameId::JacksOrBetter, GameId::DeucesWild,
+                                                          GameId::JokerWild, GameId::TreasureTrips};
 
-constexpr int deckSize(GameId game) {
-    return (game == GameId::TreasureTrips || game == GameId::JokerWild) ? 53 : 52;
-}
-constexpr bool hasJoker(GameId game) {
-    return deckSize(game) == 53;
-}
+enum class WildCard : std::uint8_t { None, Joker, Deuces };
 
-// Picks the value that belongs to a game, for tables kept one per game.
-template <typename T>
-constexpr const T& byGame(GameId game, const T& treasureTrips, const T& deucesWild,
-                          const T& jokerWild, const T& jacksOrBetter) {
-    switch (game) {
-    case GameId::TreasureTrips:
-        return treasureTrips;
-    case GameId::DeucesWild:
-        return deucesWild;
-    case GameId::JokerWild:
-        return jokerWild;
-    case GameId::JacksOrBetter:
-        break;
-    }
-    return jacksOrBetter;
+// What a single pair can pay: nothing, a pair of Jacks or better, or (marked) a pair of Aces.
+enum class PairPays : std::uint8_t { Nothing, JacksOrBetter, Aces };
+
+enum class Bonus : std::uint8_t { None, TreasureHunt };
+
+// The letter added to the picture file name of every card of one rank ("41T.gif").
+struct PictureSuffix {
+    Rank rank{Rank::Ace};
+    char letter{'\0'}; // '\0': no card gets a suffix
+};
+
+// Texts by hand code 0..10.
+using CodeTexts = std::array<std::string_view, kHandCodes>;
+
+struct GameFacts {
+    GameId game{GameId::JacksOrBetter}; // the row's own index, checked when compiled
+    std::string_view name{};            // "Jacks or Better"
+    std::string_view shortName{};       // the tools' name: JB, DW, WJ, TT
+    int deckSize{52};                   // 53 with the joker
+    WildCard wild{WildCard::None};
+    PairPays pairPays{PairPays::Nothing};
+    HandCode topCode{0};     // the highest hand code
+    CodeTexts handNames{};   // the announced name by code; code 1's pair names are resolved apart
+    PayTable payRows{};      // from the top of the board's table down
+    CodeTexts winPatterns{}; // the Win box pattern by code
+    Bonus bonus{Bonus::None};
+    std::span<const HandCode> bonusHands{}; // the codes that can hold the bonus hand
+    PictureSuffix pictureSuffix{};
+};
+
+const GameFacts& facts(GameId game);
+
+inline int deckSize(GameId game) {
+    return facts(game).deckSize;
+}
+inline bool hasJoker(GameId game) {
+    return facts(game).wild == WildCard::Joker;
 }
 
 // The short name the command-line tools use: JB, DW, WJ, TT.

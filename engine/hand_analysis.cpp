@@ -11,6 +11,10 @@ namespace marivale {
 
 namespace {
 
+using Jacks = JacksHand;
+using Joker = JokerHand;
+using Deuces = DeucesHand;
+
 // A rank or suit that equals no natural one: the joker's place in the sorted hand.
 constexpr int kJokerSlot = 52;
 // Deuces Wild gives its Twos this rank, so they sort to the front.
@@ -57,11 +61,11 @@ std::array<int, 5> sortedCodes(const GameState& state) {
 }
 
 // Splits the sorted codes into suits and ranks, setting the joker, deuce and Three counts.
-Cards splitCards(const std::array<int, 5>& sorted, GameId game) {
+Cards splitCards(const std::array<int, 5>& sorted, WildCard wild) {
     Cards cards;
     for (int i = 0; i < 5; ++i) {
         const int code = sorted[i];
-        if (hasJoker(game) && i == 4 && code == kJoker) {
+        if (wild == WildCard::Joker && i == 4 && code == kJoker) {
             cards.hasJoker = true;
             cards.ranks[i] = kJokerSlot;
             cards.suits[i] = kJokerSlot;
@@ -69,7 +73,7 @@ Cards splitCards(const std::array<int, 5>& sorted, GameId game) {
         }
         cards.suits[i] = suitIndex(code);
         cards.ranks[i] = rankIndex(code);
-        if (game == GameId::DeucesWild && cards.ranks[i] == static_cast<int>(Rank::Two)) {
+        if (wild == WildCard::Deuces && cards.ranks[i] == static_cast<int>(Rank::Two)) {
             ++cards.deuceCount;
             cards.ranks[i] = kDeuceRank;
         }
@@ -153,23 +157,23 @@ Patterns naturalPatterns(const Cards& c, bool jokerGame) {
 // Jacks or Better: the first line that applies, then the pair rule.
 HandAnalysis classifyJacks(GameState& state, const Cards& c, const Patterns& f) {
     if (f.flush && f.royal)
-        return {9};
+        return {handCode(Jacks::RoyalFlush)};
     if (f.flush && f.straight)
-        return {8};
+        return {handCode(Jacks::StraightFlush)};
     if (f.fourKind)
-        return {7};
+        return {handCode(Jacks::FourKind)};
     if (f.fullHouse)
-        return {6};
+        return {handCode(Jacks::FullHouse)};
     if (f.flush)
-        return {5};
+        return {handCode(Jacks::Flush)};
     if (f.straight || f.royal)
-        return {4};
+        return {handCode(Jacks::Straight)};
     if (f.threeKind)
-        return {3};
+        return {handCode(Jacks::ThreeKind)};
     if (f.twoPair)
-        return {2};
+        return {handCode(Jacks::TwoPair)};
     if (!f.pair)
-        return {0};
+        return {handCode(Jacks::Nothing)};
     int k = 5;
     for (int i = 0; i < 4; ++i) {
         if (c.ranks[i] == c.ranks[i + 1]) {
@@ -177,19 +181,19 @@ HandAnalysis classifyJacks(GameState& state, const Cards& c, const Patterns& f) 
         }
     }
     if (k == 5)
-        return {0};
+        return {handCode(Jacks::Nothing)};
     const int pairRank = c.ranks[k];
     if (pairRank != 0 && pairRank < 10)
-        return {0};
+        return {handCode(Jacks::Nothing)};
     state.Hand[0] = static_cast<float>(pairRank);
-    return {1};
+    return {handCode(Jacks::JacksOrBetter)};
 }
 
 // Treasure Trips and Joker Wild: the joker completes the hand where it helps.
-HandAnalysis classifyJoker(GameState& state, GameId game, const Cards& c, const Patterns& f) {
+HandAnalysis classifyJoker(GameState& state, PairPays pairPays, const Cards& c, const Patterns& f) {
     const bool joker = c.hasJoker;
     bool marked = false;
-    if (game == GameId::JokerWild) {
+    if (pairPays == PairPays::Aces) {
         const bool naturalAces = f.pair && c.ranks[0] == 0 && c.ranks[1] == 0;
         const bool aceWithJoker = joker && c.ranks[0] == 0;
         if (naturalAces || aceWithJoker) {
@@ -197,26 +201,26 @@ HandAnalysis classifyJoker(GameState& state, GameId game, const Cards& c, const 
             marked = true;
         }
     }
-    std::uint8_t code = 0;
+    JokerHand hand = JokerHand::Nothing;
     if (f.fourKind && joker)
-        code = 9;
+        hand = Joker::FiveKind;
     else if (f.flush && f.royal)
-        code = 8;
+        hand = Joker::RoyalFlush;
     else if (f.flush && f.straight)
-        code = 7;
+        hand = Joker::StraightFlush;
     else if ((joker && f.threeKind) || f.fourKind)
-        code = 6;
+        hand = Joker::FourKind;
     else if ((joker && f.twoPair) || f.fullHouse)
-        code = 5;
+        hand = Joker::FullHouse;
     else if (f.flush)
-        code = 4;
+        hand = Joker::Flush;
     else if (f.straight || f.royal)
-        code = 3;
+        hand = Joker::Straight;
     else if ((joker && f.pair) || f.threeKind)
-        code = 2;
+        hand = Joker::ThreeKind;
     else if (f.twoPair || marked)
-        code = 1;
-    return {code, marked};
+        hand = Joker::TwoPair;
+    return {handCode(hand), marked};
 }
 
 // Deuces Wild: the pattern tests written separately for each number of deuces.
@@ -277,50 +281,51 @@ Patterns deucePatterns(const Cards& c) {
 HandAnalysis classifyDeuces(const Cards& c) {
     const int n = c.deuceCount;
     if (n == 4)
-        return {9};
+        return {handCode(Deuces::FourDeuces)};
     const Patterns f = deucePatterns(c);
     if (n == 0 && f.royal && f.flush)
-        return {10};
+        return {handCode(Deuces::NaturalRoyal)};
     if (n > 0 && f.royal && f.flush)
-        return {8};
+        return {handCode(Deuces::WildRoyal)};
     if ((n == 3 && f.pair) || (n == 2 && f.threeKind) || (n == 1 && f.fourKind))
-        return {7};
+        return {handCode(Deuces::FiveKind)};
     if (f.flush && f.straight)
-        return {6};
+        return {handCode(Deuces::StraightFlush)};
     if (n == 3 || (n == 2 && f.pair) || (n == 1 && f.threeKind) || f.fourKind)
-        return {5};
+        return {handCode(Deuces::FourKind)};
     if ((n == 1 && f.twoPair) || f.fullHouse)
-        return {4};
+        return {handCode(Deuces::FullHouse)};
     if (f.flush)
-        return {3};
+        return {handCode(Deuces::Flush)};
     if (f.straight || f.royal)
-        return {2};
+        return {handCode(Deuces::Straight)};
     if (f.threeKind || n == 2 || (n == 1 && f.pair))
-        return {1};
-    return {0};
+        return {handCode(Deuces::ThreeKind)};
+    return {handCode(Deuces::Nothing)};
 }
 
 } // namespace
 
 HandAnalysis AnalyzeHand(GameState& state, GameId game) {
-    if (game == GameId::TreasureTrips) {
+    const GameFacts& rules = facts(game);
+    const bool treasureHunt = rules.bonus == Bonus::TreasureHunt;
+    if (treasureHunt) {
         state.BonusDue = kFalse;
     }
-    Cards cards = splitCards(sortedCodes(state), game);
-    if (game == GameId::TreasureTrips && cards.threesCount > 2) {
+    Cards cards = splitCards(sortedCodes(state), rules.wild);
+    if (treasureHunt && cards.threesCount > 2) {
         state.BonusDue = kTrue;
     }
-    sortRanks(cards, game == GameId::DeucesWild);
-    switch (game) {
-    case GameId::DeucesWild:
+    sortRanks(cards, rules.wild == WildCard::Deuces);
+    switch (rules.wild) {
+    case WildCard::Deuces:
         return classifyDeuces(cards);
-    case GameId::JacksOrBetter:
+    case WildCard::None:
         return classifyJacks(state, cards, naturalPatterns(cards, false));
-    case GameId::TreasureTrips:
-    case GameId::JokerWild:
+    case WildCard::Joker:
         break;
     }
-    return classifyJoker(state, game, cards, naturalPatterns(cards, true));
+    return classifyJoker(state, rules.pairPays, cards, naturalPatterns(cards, true));
 }
 
 } // namespace marivale

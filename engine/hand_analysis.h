@@ -1,6 +1,6 @@
 #pragma once
 
-// Classifies the five cards in Hand into the game's rank code (0 pays nothing, 10 at most).
+// Classifies the five cards in Hand into the game's hand code (0 pays nothing, 10 at most).
 
 #include <cstdint>
 
@@ -13,7 +13,7 @@ namespace marivale {
 inline constexpr float kAcePairMark = 13.0f;
 
 struct HandAnalysis {
-    std::uint8_t code{0};
+    HandCode code{0};
     // Joker Wild: this call wrote the ace-pair mark into Hand position 0.
     bool acePairMarked{false};
 };
@@ -23,8 +23,8 @@ struct HandAnalysis {
 HandAnalysis AnalyzeHand(GameState& state, GameId game);
 
 // The highest code a game uses.
-constexpr int topCode(GameId game) {
-    return game == GameId::DeucesWild ? 10 : 9;
+inline int topCode(GameId game) {
+    return facts(game).topCode;
 }
 
 } // namespace marivale

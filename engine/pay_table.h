@@ -1,31 +1,14 @@
 #pragma once
 
-// The four games' pay tables as data: nine rows each, from the top of the board's table down.
+// The four games' pay tables: nine rows each, kept in the games' table.
 
-#include <array>
 #include <cstdint>
-#include <span>
-#include <string_view>
 
 #include "engine/game.h"
+#include "engine/pay_row.h"
 #include "state/game_state.h"
 
 namespace marivale {
-
-using PayoutField = float GameState::*;
-
-struct PayRow {
-    std::string_view caption{}; // the row's caption, dots included
-    std::string_view box{};     // objectName of the amount box
-    PayoutField field{nullptr}; // the GameState payout the row shows and pays
-    std::int16_t multiplier{0}; // times BetAmount
-    std::string_view pattern{}; // display pattern of the amount box
-    std::uint8_t code{0};       // the HandRank code the row pays
-    std::uint8_t alsoCode{0};   // a second code paid from the same row, or 0
-};
-
-inline constexpr int kPayRows = 9;
-using PayTable = std::array<PayRow, kPayRows>;
 
 const PayTable& payTable(GameId game);
 

@@ -1,7 +1,7 @@
 #include "engine/settlement.h"
 
 // Standard library
-#include <array>
+#include <algorithm>
 
 // Marivale
 #include "engine/pay_table.h"
@@ -10,32 +10,16 @@ namespace marivale {
 
 namespace {
 
-using WinPatterns = std::array<std::string_view, 11>;
-
-// The Win box pattern by code 0..10, one column per game.
-constexpr WinPatterns kTreasureTripsWin{"",           "$##0.00",     "$#,##0.00", "$#,##0.00",
-                                        "$#,##0.00",  "$#,##0.00",   "$#,##0.00", "$##,##0.00",
-                                        "$##,##0.00", "$###,##0.00", ""};
-constexpr WinPatterns kJokerWildWin{"",           "$##0.00",    "$##0.00",   "$#,##0.00",
-                                    "$#,##0.00",  "$#,##0.00",  "$#,##0.00", "$##,##0.00",
-                                    "$##,##0.00", "$##,##0.00", ""};
-constexpr WinPatterns kJacksWin{"",           "$##0.00",     "$##0.00",   "$#,##0.00",
-                                "$#,##0.00",  "$#,##0.00",   "$#,##0.00", "$##,##0.00",
-                                "$##,##0.00", "$###,##0.00", ""};
-constexpr WinPatterns kDeucesWin{"",           "$##0.00",    "$##0.00",    "$##0.00",
-                                 "$#,##0.00",  "$#,##0.00",  "$#,##0.00",  "$#,##0.00",
-                                 "$##,##0.00", "$##,##0.00", "$###,##0.00"};
-
-// Only these Treasure Trips codes can hold three or more Threes.
-bool bonusCode(std::uint8_t code) {
-    return code == 9 || code == 6 || code == 5 || code == 2;
+// The bonus game runs for a hand with the bonus due whose code can hold the bonus hand.
+bool bonusHand(const GameFacts& game, std::uint8_t code) {
+    return game.bonus != Bonus::None &&
+           std::ranges::find(game.bonusHands, code) != game.bonusHands.end();
 }
 
 } // namespace
 
 std::string_view winPatternFor(GameId game, std::uint8_t code) {
-    const WinPatterns& column =
-        byGame(game, kTreasureTripsWin, kDeucesWin, kJokerWildWin, kJacksWin);
+    const CodeTexts& column = facts(game).winPatterns;
     return code < column.size() ? column[code] : std::string_view{};
 }
 
@@ -53,7 +37,7 @@ Settlement SettleHand(GameState& state, GameId game, BonusGame& bonus) {
     state.WinAmount = credited;
 
     Settlement result{true, false, winPatternFor(game, state.HandRank)};
-    if (game == GameId::TreasureTrips && bonusCode(state.HandRank) && isSet(state.BonusDue)) {
+    if (bonusHand(facts(game), state.HandRank) && isSet(state.BonusDue)) {
         state.BonusAmount = state.BetAmount;
         bonus.play(state);
         state.Credits = state.Credits + state.BonusAmount;

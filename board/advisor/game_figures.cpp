@@ -24,10 +24,11 @@ constexpr int kRowHeight = 22;
 
 // The name of a paying code as the figures list it.
 QString handLabel(GameId game, int code) {
-    if (game == GameId::JacksOrBetter && code == 1) {
+    // The lowest row of a game that pays a single pair names both of its hands.
+    if (code == 1 && facts(game).pairPays == PairPays::JacksOrBetter) {
         return QObject::tr("Jacks or Better");
     }
-    if (game == GameId::JokerWild && code == 1) {
+    if (code == 1 && facts(game).pairPays == PairPays::Aces) {
         return QObject::tr("Two Pair or Aces");
     }
     return QString::fromUtf8(
@@ -73,7 +74,7 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     varianceLabel_->setObjectName(QStringLiteral("GameVariance"));
     layout->addWidget(varianceLabel_);
 
-    const bool bonus = game == GameId::TreasureTrips;
+    const bool bonus = facts(game).bonus != Bonus::None;
     const int rows = topCode(game) + (bonus ? 1 : 0);
     hits_ = new QTableWidget(rows, kColumns, this);
     hits_->setObjectName(QStringLiteral("HitFrequencies"));
@@ -130,7 +131,7 @@ void GameFigures::showScale(const odds::PayScale& scale, bool edited) {
         const QSignalBlocker quiet(pay);
         pay->setValue(scale.multiplier[static_cast<std::size_t>(code)]);
     }
-    if (game_ == GameId::TreasureTrips) {
+    if (facts(game_).bonus != Bonus::None) {
         hits_->setItem(
             row, kPaysColumn,
             makeItem(QStringLiteral("+") + QString::number(scale.bonus) + QStringLiteral(" avg"),
@@ -160,7 +161,7 @@ void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& s
     for (int code = topCode(game_); code >= 1; --code, ++row) {
         setFrequency(*hits_, row, result.codeProbability[static_cast<std::size_t>(code)]);
     }
-    if (game_ == GameId::TreasureTrips) {
+    if (facts(game_).bonus != Bonus::None) {
         setFrequency(*hits_, row, result.bonusProbability);
     }
 }

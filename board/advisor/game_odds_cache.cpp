@@ -9,7 +9,7 @@ namespace {
 
 struct Cache {
     std::mutex mutex{};
-    std::array<std::optional<odds::GameOdds>, 4> byGame{};
+    std::array<std::optional<odds::GameOdds>, kGameCount> byGame{};
 };
 
 Cache& cache() {

@@ -56,8 +56,9 @@ unsigned holdMask(const HandHolds& holds) {
     return mask;
 }
 
-std::optional<double> expectedReturn(const std::array<Tally, 4>& byGame,
-                                     const std::array<std::optional<double>, 4>& gameReturns) {
+std::optional<double>
+expectedReturn(const std::array<Tally, kGameCount>& byGame,
+               const std::array<std::optional<double>, kGameCount>& gameReturns) {
     double weighted = 0.0;
     double bets = 0.0;
     for (std::size_t g = 0; g < byGame.size(); ++g) {

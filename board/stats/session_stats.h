@@ -126,7 +126,7 @@ public:
     GameId visitGame() const { return visitGame_; }
     const Tally& visit() const { return visit_; }
     const Tally& game(GameId game) const { return run_[static_cast<std::size_t>(game)]; }
-    const std::array<Tally, 4>& games() const { return run_; }
+    const std::array<Tally, kGameCount>& games() const { return run_; }
     Tally run() const;
 
     // The credits the visit started with, then after each of its hands, and its purchases and
@@ -149,7 +149,7 @@ private:
     int visits_{0};
     GameId visitGame_{GameId::JacksOrBetter};
     Tally visit_{};
-    std::array<Tally, 4> run_{};
+    std::array<Tally, kGameCount> run_{};
     float startCredits_{0.0f};
     std::vector<float> credits_{};
     std::vector<CreditMark> marks_{};
@@ -164,7 +164,8 @@ unsigned holdMask(const HandHolds& holds);
 
 // The return the player could expect over a set of games, each weighted by what was bet on it;
 // nothing before a bet or while a game with bets has no known return.
-std::optional<double> expectedReturn(const std::array<Tally, 4>& byGame,
-                                     const std::array<std::optional<double>, 4>& gameReturns);
+std::optional<double>
+expectedReturn(const std::array<Tally, kGameCount>& byGame,
+               const std::array<std::optional<double>, kGameCount>& gameReturns);
 
 } // namespace marivale

@@ -147,7 +147,7 @@ QTableWidget* makeFrequencyTable(QWidget* parent) {
 void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
                         const std::optional<odds::GameOdds>& gameOdds) {
     const GameId game = stats.visitGame();
-    const bool bonusRow = game == GameId::TreasureTrips;
+    const bool bonusRow = facts(game).bonus != Bonus::None;
     table.setRowCount(topCode(game) + (bonusRow ? 1 : 0));
     const std::array<const Tally*, 2> tallies{&stats.visit(), &stats.game(game)};
     const auto fill = [&](int row, const QString& name, const std::array<int, 2>& came,

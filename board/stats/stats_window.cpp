@@ -126,7 +126,7 @@ void StatsWindow::refresh() {
                                                  static_cast<qsizetype>(variant.title.size())))
                           .arg(stats_.visits())
                           .arg(stats_.history().size()));
-    std::array<std::optional<double>, 4> returns{};
+    std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {
         returns[static_cast<std::size_t>(game)] = exactReturn(game);
     }

@@ -33,7 +33,7 @@ constexpr std::array<std::uint8_t, 32> kMaskSize = [] {
 
 // One lazily built table set per game, indexed by GameId.
 StoppableOnce<DrawTables>& lazyFor(GameId game) {
-    static std::array<StoppableOnce<DrawTables>, 4> all{};
+    static std::array<StoppableOnce<DrawTables>, kGameCount> all{};
     return all[static_cast<std::size_t>(game)];
 }
 
@@ -46,7 +46,8 @@ std::uint8_t classify(GameState& state, GameId game, std::span<const CardCode, k
     state.BonusDue = kFalse;
     const HandAnalysis analysis = AnalyzeHand(state, game);
     const auto code = static_cast<std::uint8_t>(std::min<int>(analysis.code, kCodeSlots - 1));
-    const bool bonus = game == GameId::TreasureTrips && isSet(state.BonusDue);
+    // The analysis sets BonusDue only on a game with a bonus.
+    const bool bonus = isSet(state.BonusDue);
     return static_cast<std::uint8_t>(code | (bonus ? kBonusBit : 0));
 }
 

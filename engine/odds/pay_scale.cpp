@@ -6,13 +6,20 @@
 
 namespace marivale::odds {
 
+namespace {
+// The mean value a bet adds through the game's bonus, per bet.
+double bonusMean(GameId game) {
+    return facts(game).bonus == Bonus::TreasureHunt ? kTreasureHuntMean : 0.0;
+}
+} // namespace
+
 PayScale ownPayScale(GameId game) {
     PayScale scale;
     for (int code = 1; code <= topCode(game); ++code) {
         scale.multiplier[static_cast<std::size_t>(code)] =
             multiplierFor(game, static_cast<std::uint8_t>(code));
     }
-    scale.bonus = game == GameId::TreasureTrips ? kTreasureHuntMean : 0.0;
+    scale.bonus = bonusMean(game);
     return scale;
 }
 
@@ -26,7 +33,7 @@ std::optional<PayScale> payScaleFromMultipliers(GameId game, std::span<const dou
         scale.multiplier[static_cast<std::size_t>(code)] =
             highestFirst[static_cast<std::size_t>(top - code)];
     }
-    scale.bonus = game == GameId::TreasureTrips ? kTreasureHuntMean : 0.0;
+    scale.bonus = bonusMean(game);
     return scale;
 }
 

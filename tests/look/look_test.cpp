@@ -30,11 +30,12 @@ struct BoardLook {
     GameId game{};
     QColor board{};
     QColor display{};
+    bool treasureHunt{false}; // a paying hand with three Threes opens the Treasure Hunt
 };
 
 // Each board's colour and display colour, boards in the menu's order.
-const std::array<BoardLook, 4> kLooks{{
-    {GameId::TreasureTrips, QColor(0, 0, 128), QColor(0, 255, 255)},
+const std::array<BoardLook, kGameCount> kLooks{{
+    {GameId::TreasureTrips, QColor(0, 0, 128), QColor(0, 255, 255), true},
     {GameId::DeucesWild, QColor(0, 128, 0), QColor(0, 255, 0)},
     {GameId::JokerWild, QColor(128, 0, 0), QColor(192, 0, 0)},
     {GameId::JacksOrBetter, QColor(0, 128, 128), QColor(0, 192, 192)},
@@ -160,7 +161,7 @@ void visitBoard(GameId game, bool strategyToo, Faults& faults) {
 
     v.click(QStringLiteral("POption4"));
     v.click(QStringLiteral("Purchase"));
-    if (game == GameId::TreasureTrips) {
+    if (lookOf(game).treasureHunt) {
         seen = false;
         whenModal(QStringLiteral("TrTrip"), [&](QWidget& hunt) {
             seen = true;

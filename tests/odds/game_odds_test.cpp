@@ -100,7 +100,7 @@ struct OwnTable {
 };
 
 // The returns of the four boards' own pay tables.
-constexpr std::array<OwnTable, 4> kOwnTables{{
+constexpr std::array<OwnTable, kGameCount> kOwnTables{{
     {GameId::JacksOrBetter, 0.83787541, 0.0, 5.5047},
     {GameId::DeucesWild, 0.88304134, 0.0, 12.7082},
     {GameId::JokerWild, 0.81433903, 0.0, 10.0341},

@@ -39,7 +39,7 @@ inline constexpr bool kOptimisedBuild = false;
 // Building a game's tables classifies every hand of its deck, which takes tens of seconds in a
 // sanitizer build: there the table tests run on Treasure Trips alone (joker deck and bonus).
 inline bool tablesAffordable(GameId game) {
-    return kOptimisedBuild || game == GameId::TreasureTrips;
+    return kOptimisedBuild || facts(game).bonus != Bonus::None;
 }
 
 using Deal = std::array<CardCode, 5>;
@@ -103,7 +103,7 @@ inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
         }
         const std::uint8_t code = AnalyzeHand(state, game).code;
         ++counts.all[code];
-        if (game == GameId::TreasureTrips && isSet(state.BonusDue)) {
+        if (facts(game).bonus != Bonus::None && isSet(state.BonusDue)) {
             ++counts.bonus[code];
         }
         ++counts.draws;

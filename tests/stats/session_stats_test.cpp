@@ -139,7 +139,7 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_EQ(stats.history().back().number, 4);
 
     // $2.00 bet on a 90% game and $0.50 on a 100% one: 92% expected.
-    std::array<std::optional<double>, 4> returns{};
+    std::array<std::optional<double>, kGameCount> returns{};
     returns[static_cast<std::size_t>(JB)] = 0.9;
     EXPECT_EQ(expectedReturn(stats.games(), returns), std::nullopt);
     returns[static_cast<std::size_t>(DW)] = 1.0;

@@ -54,7 +54,7 @@ std::string codeLabel(GameId game, int code) {
     if (code == 0) {
         return "nothing";
     }
-    if (game == GameId::JokerWild && code == 1) {
+    if (code == 1 && facts(game).pairPays == PairPays::Aces) {
         return "Two Pair or Pair of Aces";
     }
     return std::string(CodeName(game, static_cast<std::uint8_t>(code)));
@@ -156,7 +156,7 @@ int main(int argc, char** argv) {
         std::printf("%2d %-32s x%-7g %.9f  1 in %.1f\n", code, codeLabel(*game, code).c_str(),
                     scale.multiplier[static_cast<std::size_t>(code)], p, p > 0.0 ? 1.0 / p : 0.0);
     }
-    if (*game == GameId::TreasureTrips) {
+    if (facts(*game).bonus == Bonus::TreasureHunt) {
         std::printf("   %-32s +%-7g %.9f  1 in %.1f  (adds %.4f%%: one chest choice)\n",
                     "Treasure Hunt", scale.bonus, result->bonusProbability,
                     result->bonusProbability > 0.0 ? 1.0 / result->bonusProbability : 0.0,

@@ -26,7 +26,7 @@ struct Scene {
     unsigned holds;
 };
 
-constexpr std::array<Scene, 4> kScenes{{
+constexpr std::array<Scene, kGameCount> kScenes{{
     {GameId::TreasureTrips, {12, 25, 52, 3, 44}, {0, 0, 0, 7, 33}, 0b00111},
     {GameId::DeucesWild, {1, 40, 9, 36, 47}, {0, 0, 0, 0, 37}, 0b01111},
     {GameId::JokerWild, {0, 26, 52, 30, 45}, {0, 0, 0, 13, 7}, 0b00111},

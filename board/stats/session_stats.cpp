@@ -57,19 +57,19 @@ unsigned holdMask(const HandHolds& holds) {
 }
 
 std::optional<double>
-expectedReturn(const std::array<Tally, kGameCount>& byGame,
+expectedReturn(const std::array<Tally, kGameCount>& tallies,
                const std::array<std::optional<double>, kGameCount>& gameReturns) {
     double weighted = 0.0;
     double bets = 0.0;
-    for (std::size_t g = 0; g < byGame.size(); ++g) {
-        if (!(byGame[g].bet > 0.0f)) {
+    for (std::size_t g = 0; g < tallies.size(); ++g) {
+        if (!(tallies[g].bet > 0.0f)) {
             continue;
         }
         if (!gameReturns[g]) {
             return std::nullopt;
         }
-        weighted += *gameReturns[g] * byGame[g].bet;
-        bets += byGame[g].bet;
+        weighted += *gameReturns[g] * tallies[g].bet;
+        bets += tallies[g].bet;
     }
     if (!(bets > 0.0)) {
         return std::nullopt;

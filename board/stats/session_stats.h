@@ -165,7 +165,7 @@ unsigned holdMask(const HandHolds& holds);
 // The return the player could expect over a set of games, each weighted by what was bet on it;
 // nothing before a bet or while a game with bets has no known return.
 std::optional<double>
-expectedReturn(const std::array<Tally, kGameCount>& byGame,
+expectedReturn(const std::array<Tally, kGameCount>& tallies,
                const std::array<std::optional<double>, kGameCount>& gameReturns);
 
 } // namespace marivale

@@ -21,7 +21,6 @@
 
 // Marivale
 #include "board/advisor/game_odds_cache.h"
-#include "board/game_variant.h"
 #include "board/stats/credit_chart.h"
 #include "board/stats/history_csv.h"
 #include "board/stats/history_model.h"
@@ -120,10 +119,9 @@ void StatsWindow::scheduleRefresh() {
 }
 
 void StatsWindow::refresh() {
-    const GameVariant& variant = variantFor(stats_.visitGame());
+    const std::string_view name = facts(stats_.visitGame()).name;
     heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
-                          .arg(QString::fromUtf8(variant.title.data(),
-                                                 static_cast<qsizetype>(variant.title.size())))
+                          .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
                           .arg(stats_.visits())
                           .arg(stats_.history().size()));
     std::array<std::optional<double>, kGameCount> returns{};

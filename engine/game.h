@@ -55,6 +55,7 @@ struct GameFacts {
     PictureSuffix pictureSuffix{};
 };
 
+// Everything the engine knows of one game.
 const GameFacts& facts(GameId game);
 
 inline int deckSize(GameId game) {

@@ -114,7 +114,8 @@ probes=0
 declare -A seen=()   # how many actions each window title was on top for
 grace=0          # seconds a starting run may take before its first window counts as a hang
 record_re=$'^-?[0-9]+(\\.[0-9]+)?(E[+-][0-9]+)?\r\n$'
-access_keys=(a b c d e f g h i j k l m n o p q r s t u v w x y z)
+# The letters of the captions' access keys, each once more than the other letters.
+access_keys=(a b c d e f g h i j k l m n o p q r s t u v w x y z c d h j k l n o p r s t u x)
 plain_keys=(Return Return Escape Tab shift+Tab space F2 F2 alt+F4 alt+F4 Up Down Left Right 1 5)
 
 # Whether the data file is exactly one well-formed record.
@@ -202,14 +203,19 @@ user_times() {
     done | tr '\n' ' '
 }
 
-# Left, top, width and height of a window's frame, title bar included.
+# Left, top, width and height of a window's frame, title bar included, and the title bar's
+# height. (xwininfo gives the client's true place on the screen; the frame adds its extents.)
 frame_of() {
-    local x y w h extents left right top X=0 Y=0 WIDTH=0 HEIGHT=0
-    eval "$(xdotool getwindowgeometry --shell "$1" 2>/dev/null | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+    local info cx cy cw ch extents left right top
+    info="$(xwininfo -id "$1" 2>/dev/null)"
+    cx="$(sed -n 's/.*Absolute upper-left X: *\(-\?[0-9]*\).*/\1/p' <<<"$info")"
+    cy="$(sed -n 's/.*Absolute upper-left Y: *\(-\?[0-9]*\).*/\1/p' <<<"$info")"
+    cw="$(sed -n 's/^ *Width: *\([0-9]*\).*/\1/p' <<<"$info")"
+    ch="$(sed -n 's/^ *Height: *\([0-9]*\).*/\1/p' <<<"$info")"
     extents="$(xprop -id "$1" _NET_FRAME_EXTENTS 2>/dev/null | sed -e 's/.*= //' -e 's/,//g')"
-    read -r left right top _ <<<"${extents:-0 0 0 0}"
-    x=$((X - left)) y=$((Y - top)) w=$((WIDTH + left + right)) h=$((HEIGHT + top))
-    echo "$x $y $w $h $top"
+    [[ $extents =~ ^[0-9]+\ [0-9]+\ [0-9]+\ [0-9]+$ ]] || extents="0 0 0 0"
+    read -r left right top _ <<<"$extents"
+    echo "$((${cx:-0} - left)) $((${cy:-0} - top)) $((${cw:-0} + left + right)) $((${ch:-0} + top)) $top"
 }
 
 # Presses Shift for the top window and waits up to 5 s for the toolkit to take it.
@@ -290,6 +296,13 @@ act() {
     roll=$((RANDOM % 100))
     if ((roll < 45)); then
         click_in "$top"
+    elif ((roll < 48)); then
+        # The status bar, where a click switches Double Up on or off.
+        if [ "$title" = "Marivale Poker" ]; then
+            local x y w h t
+            read -r x y w h t <<<"$(frame_of "$top")"
+            xdotool mousemove $((x + 10 + RANDOM % 60)) $((y + h - 14)) click 1 2>/dev/null
+        fi
     elif ((roll < 58)); then
         xdotool key "alt+${access_keys[RANDOM % ${#access_keys[@]}]}" 2>/dev/null
     elif ((roll < 78)); then

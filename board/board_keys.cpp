@@ -68,14 +68,17 @@ bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
     return true;
 }
 
-void placeBeside(QWidget& companion, const QWidget& board) {
+void placeBeside(QWidget& companion, const QWidget& board, Side preferred) {
     const QRect outer = board.frameGeometry();
     const QRect screen = board.screen()->availableGeometry();
     const QSize size = companion.frameGeometry().size();
-    int x = outer.left() - size.width() - kGap;
-    if (x < screen.left()) {
-        x = std::min(outer.right() + kGap, screen.right() - size.width());
-    }
+    const int left = outer.left() - size.width() - kGap;
+    const int right = outer.right() + kGap;
+    const bool leftFits = left >= screen.left();
+    const bool rightFits = right + size.width() <= screen.right();
+    int x = preferred == Side::Left ? (leftFits || !rightFits ? left : right)
+                                    : (rightFits || !leftFits ? right : left);
+    x = std::min(x, screen.right() - size.width());
     const int y = std::min(outer.top(), screen.bottom() - size.height());
     companion.move(std::max(x, screen.left()), std::max(y, screen.top()));
 }

@@ -20,8 +20,11 @@ void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets);
 // or hidden control stays deaf, and a key held down plays only once.
 bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event);
 
-// Puts a companion window left of the board when there is room, else right of it, always whole
-// on the board's screen.
-void placeBeside(QWidget& companion, const QWidget& board);
+// Which side of the board a companion window would rather stand.
+enum class Side { Left, Right };
+
+// Puts a companion window on its preferred side of the board when there is room, else on the
+// other, always whole on the board's screen.
+void placeBeside(QWidget& companion, const QWidget& board, Side preferred);
 
 } // namespace marivale

@@ -268,7 +268,7 @@ void GameBoard::Impl::toggleStrategy() {
         strategy_->hide();
         return;
     }
-    strategy_->move(window_.frameGeometry().topRight() + QPoint(8, 0));
+    placeBeside(*strategy_, window_, Side::Right);
     strategy_->show();
     strategy_->raise();
 }
@@ -282,7 +282,7 @@ void GameBoard::Impl::toggleStatistics() {
         statsWindow_->hide();
         return;
     }
-    placeBeside(*statsWindow_, window_);
+    placeBeside(*statsWindow_, window_, Side::Left);
     statsWindow_->show();
     statsWindow_->raise();
 }

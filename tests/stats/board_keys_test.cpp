@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 // Marivale
+#include "board/board_keys.h"
 #include "board_fixture.h"
 
 using namespace marivale;
@@ -27,6 +28,7 @@ private slots:
     void enterNeverReachesTheFocusedControl();
     void keysDoNoMoreThanAClick();
     void accessKeysActAtOnce();
+    void companionsStandWholeOnScreen();
     void tooltipsNameTheKeys();
 };
 
@@ -154,6 +156,39 @@ void BoardKeysTest::accessKeysActAtOnce() {
     QCOMPARE(f.state.TotalPurchased, 20.0f);
     QCOMPARE(f.state.DrawPhase, 1);
     QCOMPARE(f.text("Credit"), QStringLiteral("$19.00"));
+}
+
+// A companion takes its preferred side where it fits, the other side where only that fits, and
+// is never left partly off the screen.
+void BoardKeysTest::companionsStandWholeOnScreen() {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QWidget board;
+    board.resize(200, 150);
+    QWidget companion;
+    companion.resize(150, 100);
+    struct Case {
+        int boardLeft;
+        Side side;
+        int expectedLeft; // -1: anywhere, as long as it is whole
+    };
+    const int right = screen.right();
+    const std::array<Case, 5> cases{{
+        {400, Side::Left, 400 - 150 - 8},
+        {400, Side::Right, 400 + 199 + 8},
+        {0, Side::Left, 199 + 8},
+        {right - 199, Side::Right, right - 199 - 150 - 8},
+        {right - 100, Side::Right, -1},
+    }};
+    for (const Case& c : cases) {
+        board.move(c.boardLeft, 50);
+        placeBeside(companion, board, c.side);
+        const QRect placed(companion.pos(), companion.size());
+        QVERIFY2(screen.contains(placed),
+                 qPrintable(QStringLiteral("board at %1").arg(c.boardLeft)));
+        if (c.expectedLeft >= 0) {
+            QCOMPARE(placed.left(), c.expectedLeft);
+        }
+    }
 }
 
 void BoardKeysTest::tooltipsNameTheKeys() {

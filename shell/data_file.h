@@ -17,7 +17,6 @@
 // Saving lives in data_file_save.h, which uses QtCore; this reader stays free of any toolkit.
 
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -60,8 +60,9 @@ SignalBridge::~SignalBridge() {
     if (notifier_ == nullptr) {
         return;
     }
+    // Once the program is closing, a late signal must not kill it on its way out.
     for (const int number : kSignals) {
-        setHandler(number, SIG_DFL);
+        setHandler(number, requested_ ? SIG_IGN : SIG_DFL);
     }
     ::close(gWriteEnd);
     ::close(gReadEnd);

@@ -19,7 +19,7 @@ class SignalBridge : public QObject {
 public:
     // Installs the handlers; only one bridge may exist at a time.
     explicit SignalBridge(QObject* parent = nullptr);
-    // Restores the default handlers.
+    // Restores the default handlers, or ignores the signals once a close has been asked for.
     ~SignalBridge() override;
 
     SignalBridge(const SignalBridge&) = delete;

@@ -40,8 +40,7 @@ StoppableOnce<DrawTables>& lazyFor(GameId game) {
 // Classifies five ascending cards with the game's own analysis: code, plus the bonus bit.
 std::uint8_t classify(GameState& state, GameId game, std::span<const CardCode, kHandSize> cards) {
     for (int i = 0; i < kHandSize; ++i) {
-        state.Hand[static_cast<std::size_t>(i)] =
-            static_cast<float>(cards[static_cast<std::size_t>(i)]);
+        state.Hand[i] = static_cast<float>(cards[i]);
     }
     state.BonusDue = kFalse;
     const HandAnalysis analysis = AnalyzeHand(state, game);
@@ -103,12 +102,11 @@ void divideSums(const Sums& sums, const std::vector<SuitClass>& classes, int siz
         const std::uint64_t divisor = static_cast<std::uint64_t>(classes[id].weight) *
                                       static_cast<unsigned>(kHandSize - size);
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-            const std::uint64_t sum = sums[id][static_cast<std::size_t>(slot)];
+            const std::uint64_t sum = sums[id][slot];
             if (sum % divisor != 0) {
                 throw std::logic_error("hand outcomes depend on which suit is which");
             }
-            out[id][static_cast<std::size_t>(slot)] =
-                static_cast<typename Counts::value_type>(sum / divisor);
+            out[id][slot] = static_cast<typename Counts::value_type>(sum / divisor);
         }
     }
 }
@@ -117,21 +115,20 @@ void divideSums(const Sums& sums, const std::vector<SuitClass>& classes, int siz
 template <typename Larger, typename Smaller>
 void sumDown(const SubsetClassTables& sets, int size, const std::vector<Larger>& larger,
              std::vector<Smaller>& out) {
-    const auto& bigger = sets.classes[static_cast<std::size_t>(size + 1)];
-    const auto& classOf = sets.classOfSet[static_cast<std::size_t>(size)];
-    Sums sums(sets.classes[static_cast<std::size_t>(size)].size());
+    const auto& bigger = sets.classes[size + 1];
+    const auto& classOf = sets.classOfSet[size];
+    Sums sums(sets.classes[size].size());
     for (std::size_t id = 0; id < bigger.size(); ++id) {
         const SuitClass& rep = bigger[id];
         for (std::size_t omitted = 0; omitted < rep.size; ++omitted) {
             auto& sum = sums[classOf[numberWithout(rep.set(), omitted)]];
             for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                sum[static_cast<std::size_t>(slot)] +=
-                    static_cast<std::uint64_t>(rep.weight) *
-                    static_cast<std::uint64_t>(larger[id][static_cast<std::size_t>(slot)]);
+                sum[slot] += static_cast<std::uint64_t>(rep.weight) *
+                             static_cast<std::uint64_t>(larger[id][slot]);
             }
         }
     }
-    divideSums(sums, sets.classes[static_cast<std::size_t>(size)], size, out);
+    divideSums(sums, sets.classes[size], size, out);
 }
 
 } // namespace
@@ -185,7 +182,7 @@ void DrawTables::classifyDeals(int threads, std::stop_token stop) {
             return;
         }
         GameState state{};
-        auto& mine = seen[static_cast<std::size_t>(worker)];
+        auto& mine = seen[worker];
         const std::size_t first = static_cast<std::size_t>(chunk) * kClassifyChunk;
         const std::size_t last = std::min(deals.size(), first + kClassifyChunk);
         for (std::size_t i = first; i < last; ++i) {
@@ -196,8 +193,8 @@ void DrawTables::classifyDeals(int threads, std::stop_token stop) {
     });
 
     for (int code = 0; code < kCodeSlots; ++code) {
-        outcomes_[static_cast<std::size_t>(code)] = Outcome{static_cast<std::uint8_t>(code), false};
-        slotOfRaw_[static_cast<std::size_t>(code)] = static_cast<std::uint8_t>(code);
+        outcomes_[code] = Outcome{static_cast<std::uint8_t>(code), false};
+        slotOfRaw_[code] = static_cast<std::uint8_t>(code);
     }
     outcomeCount_ = kCodeSlots;
     for (int code = 0; code < kCodeSlots; ++code) {
@@ -208,9 +205,8 @@ void DrawTables::classifyDeals(int threads, std::stop_token stop) {
         if (outcomeCount_ == kMaxOutcomes) {
             throw std::logic_error("more bonus outcomes than the odds have slots for");
         }
-        outcomes_[static_cast<std::size_t>(outcomeCount_)] =
-            Outcome{static_cast<std::uint8_t>(code), true};
-        slotOfRaw_[static_cast<std::size_t>(raw)] = static_cast<std::uint8_t>(outcomeCount_++);
+        outcomes_[outcomeCount_] = Outcome{static_cast<std::uint8_t>(code), true};
+        slotOfRaw_[raw] = static_cast<std::uint8_t>(outcomeCount_++);
     }
     for (auto& value : dealOutcomes_) {
         value = slotOfRaw_[value];
@@ -257,14 +253,13 @@ void DrawTables::subsetClasses(std::span<const CardCode, kHandSize> ascending,
 }
 
 int DrawTables::classCount(int size) const {
-    return static_cast<int>(classes_->classes[static_cast<std::size_t>(size)].size());
+    return static_cast<int>(classes_->classes[size].size());
 }
 
 void DrawTables::addClassCounts(int size, int id, int sign, OutcomeCounts& into) const {
     const auto add = [&](const auto& counts) {
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-            into[static_cast<std::size_t>(slot)] +=
-                sign * static_cast<std::int32_t>(counts[static_cast<std::size_t>(slot)]);
+            into[slot] += sign * static_cast<std::int32_t>(counts[slot]);
         }
     };
     const auto at = static_cast<std::size_t>(id);
@@ -296,7 +291,7 @@ void DrawTables::supersetCounts(std::span<const CardCode, kHandSize> ascending,
         addClassCounts(kMaskSize[mask], ids[mask], 1, out[mask]);
     }
     out[31] = {};
-    out[31][static_cast<std::size_t>(handOutcome(ascending))] = 1;
+    out[31][handOutcome(ascending)] = 1;
 }
 
 std::size_t DrawTables::memoryBytes() const {

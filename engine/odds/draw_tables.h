@@ -46,7 +46,7 @@ public:
     int deckSize() const { return deckSize_; }
     // Slots 0..outcomeCount()-1 are in use.
     int outcomeCount() const { return outcomeCount_; }
-    Outcome outcome(int slot) const { return outcomes_[static_cast<std::size_t>(slot)]; }
+    Outcome outcome(int slot) const { return outcomes_[slot]; }
 
     // The outcome slot of the hand of five ascending cards.
     int handOutcome(std::span<const CardCode, kHandSize> ascending) const;

@@ -44,24 +44,21 @@ Pays paysFor(const DrawTables& tables, const PayScale& scale) {
     Pays pays;
     pays.values = outcomeValues(tables, scale);
     for (int size = 0; size < kHandSize; ++size) {
-        auto& ofClass = pays.ofClass[static_cast<std::size_t>(size)];
+        auto& ofClass = pays.ofClass[size];
         ofClass.resize(static_cast<std::size_t>(tables.classCount(size)));
         for (std::size_t id = 0; id < ofClass.size(); ++id) {
             OutcomeCounts counts{};
             tables.addClassCounts(size, static_cast<int>(id), 1, counts);
             double sum = 0.0;
             for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                sum += counts[static_cast<std::size_t>(slot)] *
-                       pays.values[static_cast<std::size_t>(slot)];
+                sum += counts[slot] * pays.values[slot];
             }
             ofClass[id] = sum;
         }
     }
     for (int held = 0; held < kHeldCounts; ++held) {
-        pays.draws[static_cast<std::size_t>(held)] =
-            static_cast<double>(drawsFor(tables.deckSize(), held));
-        pays.perDraw[static_cast<std::size_t>(held)] =
-            1.0 / pays.draws[static_cast<std::size_t>(held)];
+        pays.draws[held] = static_cast<double>(drawsFor(tables.deckSize(), held));
+        pays.perDraw[held] = 1.0 / pays.draws[held];
     }
     return pays;
 }
@@ -84,7 +81,7 @@ void holdCounts(const DrawTables& tables, const SubsetClasses& ids, int dealSlot
         const unsigned set = held | extra;
         const int sign = (kMaskSize[extra] & 1u) != 0 ? -1 : 1;
         if (set == kAllHeld) {
-            out[static_cast<std::size_t>(dealSlot)] += sign;
+            out[dealSlot] += sign;
         } else {
             tables.addClassCounts(kMaskSize[set], ids[set], sign, out);
         }
@@ -98,8 +95,7 @@ void holdCounts(const DrawTables& tables, const SubsetClasses& ids, int dealSlot
 double exactReturn(const OutcomeCounts& counts, const Pays& pays, unsigned held) {
     double paid = 0.0;
     for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-        paid +=
-            counts[static_cast<std::size_t>(slot)] * pays.values[static_cast<std::size_t>(slot)];
+        paid += counts[slot] * pays.values[slot];
     }
     return paid / pays.draws[kMaskSize[held]];
 }
@@ -114,7 +110,7 @@ void playClass(const DrawTables& tables, const Pays& pays, const DealClass& deal
     for (unsigned mask = 0; mask < kAllHeld; ++mask) {
         paid[mask] = pays.ofClass[kMaskSize[mask]][ids[mask]];
     }
-    paid[kAllHeld] = pays.values[static_cast<std::size_t>(dealSlot)];
+    paid[kAllHeld] = pays.values[dealSlot];
     // After the pass over card b, paid[A] covers the hands that contain A and none of the
     // discarded cards among those passed.
     subtractWith<1>(paid);
@@ -160,9 +156,8 @@ void playClass(const DrawTables& tables, const Pays& pays, const DealClass& deal
     }
     auto& hands = totals.hands[kMaskSize[best]];
     for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-        hands[static_cast<std::size_t>(slot)] +=
-            static_cast<std::uint64_t>(deal.weight) *
-            static_cast<std::uint64_t>(counts[static_cast<std::size_t>(slot)]);
+        hands[slot] +=
+            static_cast<std::uint64_t>(deal.weight) * static_cast<std::uint64_t>(counts[slot]);
     }
 }
 
@@ -184,8 +179,7 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
         const std::size_t first = static_cast<std::size_t>(chunk) * kChunk;
         const std::size_t last = std::min(classes.size(), first + kChunk);
         for (std::size_t i = first; i < last; ++i) {
-            playClass(tables, pays, classes[i], dealSlots[i],
-                      totals[static_cast<std::size_t>(worker)]);
+            playClass(tables, pays, classes[i], dealSlots[i], totals[worker]);
         }
     });
     if (stop.stop_requested()) {
@@ -201,14 +195,13 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
     const auto deals = static_cast<long double>(odds.deals);
     std::array<long double, kMaxOutcomes> probability{};
     for (int held = 0; held < kHeldCounts; ++held) {
-        const long double perDeal = deals * pays.draws[static_cast<std::size_t>(held)];
+        const long double perDeal = deals * pays.draws[held];
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
             std::uint64_t hands = 0;
             for (const Totals& part : totals) {
-                hands += part.hands[static_cast<std::size_t>(held)][static_cast<std::size_t>(slot)];
+                hands += part.hands[held][slot];
             }
-            probability[static_cast<std::size_t>(slot)] +=
-                static_cast<long double>(hands) / perDeal;
+            probability[slot] += static_cast<long double>(hands) / perDeal;
         }
     }
     long double expected = 0.0L;

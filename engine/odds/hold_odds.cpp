@@ -20,7 +20,7 @@ void countHolds(const DrawTables& tables, std::span<const CardCode, kHandSize> a
             OutcomeCounts& target = out[mask];
             const OutcomeCounts& with = out[mask | bit];
             for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                target[static_cast<std::size_t>(slot)] -= with[static_cast<std::size_t>(slot)];
+                target[slot] -= with[slot];
             }
         }
     }
@@ -51,13 +51,10 @@ HandOdds analyzeHolds(const DrawTables& tables, std::span<const CardCode, kHandS
     // Sort the cards, remembering which board position each sorted place came from.
     std::array<int, kHandSize> position{};
     std::iota(position.begin(), position.end(), 0);
-    std::sort(position.begin(), position.end(), [&](int a, int b) {
-        return dealt[static_cast<std::size_t>(a)] < dealt[static_cast<std::size_t>(b)];
-    });
+    std::sort(position.begin(), position.end(), [&](int a, int b) { return dealt[a] < dealt[b]; });
     std::array<CardCode, kHandSize> ascending{};
     for (int i = 0; i < kHandSize; ++i) {
-        ascending[static_cast<std::size_t>(i)] =
-            dealt[static_cast<std::size_t>(position[static_cast<std::size_t>(i)])];
+        ascending[i] = dealt[position[i]];
     }
 
     SubsetCounts counts{};
@@ -70,7 +67,7 @@ HandOdds analyzeHolds(const DrawTables& tables, std::span<const CardCode, kHandS
         unsigned held = 0;
         for (int i = 0; i < kHandSize; ++i) {
             if ((sortedMask >> i) & 1u) {
-                held |= 1u << position[static_cast<std::size_t>(i)];
+                held |= 1u << position[i];
             }
         }
         HoldOdds& hold = odds.holds[held];
@@ -80,18 +77,15 @@ HandOdds analyzeHolds(const DrawTables& tables, std::span<const CardCode, kHandS
         double total = 0.0;
         double totalSquares = 0.0;
         for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-            total += hold.counts[static_cast<std::size_t>(slot)] *
-                     values[static_cast<std::size_t>(slot)];
-            totalSquares += hold.counts[static_cast<std::size_t>(slot)] *
-                            squares[static_cast<std::size_t>(slot)];
+            total += hold.counts[slot] * values[slot];
+            totalSquares += hold.counts[slot] * squares[slot];
         }
         hold.expectedReturn = total / static_cast<double>(hold.draws);
         hold.variance = std::max(0.0, totalSquares / static_cast<double>(hold.draws) -
                                           hold.expectedReturn * hold.expectedReturn);
     }
     for (int mask = 1; mask < kHoldCount; ++mask) {
-        if (odds.holds[static_cast<std::size_t>(mask)].expectedReturn >
-            odds.holds[static_cast<std::size_t>(odds.best)].expectedReturn) {
+        if (odds.holds[mask].expectedReturn > odds.holds[odds.best].expectedReturn) {
             odds.best = mask;
         }
     }

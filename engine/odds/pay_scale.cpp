@@ -16,8 +16,7 @@ double bonusMean(GameId game) {
 PayScale ownPayScale(GameId game) {
     PayScale scale;
     for (int code = 1; code <= topCode(game); ++code) {
-        scale.multiplier[static_cast<std::size_t>(code)] =
-            multiplierFor(game, static_cast<std::uint8_t>(code));
+        scale.multiplier[code] = multiplierFor(game, static_cast<std::uint8_t>(code));
     }
     scale.bonus = bonusMean(game);
     return scale;
@@ -30,8 +29,7 @@ std::optional<PayScale> payScaleFromMultipliers(GameId game, std::span<const dou
     }
     PayScale scale;
     for (int code = top; code >= 1; --code) {
-        scale.multiplier[static_cast<std::size_t>(code)] =
-            highestFirst[static_cast<std::size_t>(top - code)];
+        scale.multiplier[code] = highestFirst[top - code];
     }
     scale.bonus = bonusMean(game);
     return scale;
@@ -41,8 +39,7 @@ OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale) {
     OutcomeValues values{};
     for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
         const Outcome outcome = tables.outcome(slot);
-        values[static_cast<std::size_t>(slot)] =
-            scale.multiplier[outcome.code] + (outcome.bonus ? scale.bonus : 0.0);
+        values[slot] = scale.multiplier[outcome.code] + (outcome.bonus ? scale.bonus : 0.0);
     }
     return values;
 }

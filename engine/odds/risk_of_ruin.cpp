@@ -57,8 +57,8 @@ std::vector<Payout> payoutDistribution(const GameOdds& odds, const PayScale& sca
     std::map<double, double> byPay;
     const auto chest = chestValues(scale);
     for (int slot = 0; slot < odds.outcomeCount; ++slot) {
-        const Outcome outcome = odds.outcomes[static_cast<std::size_t>(slot)];
-        const double p = odds.outcomeProbability[static_cast<std::size_t>(slot)];
+        const Outcome outcome = odds.outcomes[slot];
+        const double p = odds.outcomeProbability[slot];
         const double row = scale.multiplier[outcome.code];
         if (!outcome.bonus) {
             byPay[row] += p;

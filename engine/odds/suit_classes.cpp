@@ -27,7 +27,7 @@ const std::array<std::vector<unsigned>, kHandSize + 1>& patternsBySize() {
         for (unsigned mask = 0; mask <= kAllRanks; ++mask) {
             const int count = std::popcount(mask);
             if (count <= kHandSize) {
-                bySize[static_cast<std::size_t>(count)].push_back(mask);
+                bySize[count].push_back(mask);
             }
         }
         return bySize;
@@ -42,11 +42,11 @@ void forEachPatternSet(Patterns& patterns, int suit, unsigned bound, int cards, 
     const auto& bySize = patternsBySize();
     const int fewest = suit == kSuits - 1 ? cards : 0;
     for (int count = fewest; count <= cards; ++count) {
-        for (const unsigned mask : bySize[static_cast<std::size_t>(count)]) {
+        for (const unsigned mask : bySize[count]) {
             if (mask > bound) {
                 break; // the patterns of a size ascend
             }
-            patterns[static_cast<std::size_t>(suit)] = mask;
+            patterns[suit] = mask;
             if (suit == kSuits - 1) {
                 visit(patterns);
             } else {
@@ -60,13 +60,12 @@ void forEachPatternSet(Patterns& patterns, int suit, unsigned bound, int cards, 
 int cardsOf(const Patterns& patterns, bool joker, std::array<CardCode, kHandSize>& cards) {
     int size = 0;
     for (int suit = 0; suit < kSuits; ++suit) {
-        for (unsigned rest = patterns[static_cast<std::size_t>(suit)]; rest != 0;
-             rest &= rest - 1) {
-            cards[static_cast<std::size_t>(size++)] = suit * kRanksPerSuit + std::countr_zero(rest);
+        for (unsigned rest = patterns[suit]; rest != 0; rest &= rest - 1) {
+            cards[size++] = suit * kRanksPerSuit + std::countr_zero(rest);
         }
     }
     if (joker) {
-        cards[static_cast<std::size_t>(size++)] = kJoker;
+        cards[size++] = kJoker;
     }
     return size;
 }
@@ -76,12 +75,11 @@ int arrangements(const Patterns& patterns) {
     int count = kFactorial[kSuits];
     int run = 1;
     for (int suit = 1; suit <= kSuits; ++suit) {
-        if (suit < kSuits && patterns[static_cast<std::size_t>(suit)] ==
-                                 patterns[static_cast<std::size_t>(suit - 1)]) {
+        if (suit < kSuits && patterns[suit] == patterns[suit - 1]) {
             ++run;
             continue;
         }
-        count /= kFactorial[static_cast<std::size_t>(run)];
+        count /= kFactorial[run];
         run = 1;
     }
     return count;
@@ -91,7 +89,7 @@ Patterns patternsOf(std::span<const CardCode> cards) {
     Patterns patterns{};
     for (const CardCode card : cards) {
         if (card != kJoker) {
-            patterns[static_cast<std::size_t>(suitIndex(card))] |= 1u << rankIndex(card);
+            patterns[suitIndex(card)] |= 1u << rankIndex(card);
         }
     }
     return patterns;
@@ -102,12 +100,12 @@ constexpr std::size_t kStopCheck = 4096;
 std::unique_ptr<SubsetClassTables> buildTables(int deckSize, std::stop_token stop) {
     auto tables = std::make_unique<SubsetClassTables>();
     for (int size = 0; size < kHandSize; ++size) {
-        auto& classes = tables->classes[static_cast<std::size_t>(size)];
+        auto& classes = tables->classes[size];
         classes = buildSuitClasses(deckSize, size, stop);
         if (classes.size() > 0xffff) {
             throw std::logic_error("too many suit classes for 16-bit numbers");
         }
-        auto& classOf = tables->classOfSet[static_cast<std::size_t>(size)];
+        auto& classOf = tables->classOfSet[size];
         classOf.assign(binomial(deckSize, size), 0);
         // Every renaming of the suits of a representative lands in its class.
         for (std::size_t id = 0; id < classes.size(); ++id) {
@@ -158,8 +156,8 @@ std::vector<SuitClass> buildSuitClasses(int deckSize, int size, std::stop_token 
 std::size_t SubsetClassTables::memoryBytes() const {
     std::size_t bytes = 0;
     for (int size = 0; size < kHandSize; ++size) {
-        bytes += classes[static_cast<std::size_t>(size)].size() * sizeof(SuitClass) +
-                 classOfSet[static_cast<std::size_t>(size)].size() * sizeof(std::uint16_t);
+        bytes += classes[size].size() * sizeof(SuitClass) +
+                 classOfSet[size].size() * sizeof(std::uint16_t);
     }
     return bytes;
 }

@@ -162,7 +162,7 @@ void buildPayTable(QDialog& window, const GameVariant& v, const Schemes& s, Boar
     const PayTable& table = payTable(v.game);
     for (int row = 0; row < kPayRows; ++row) {
         const int top = 90 + row * 300;
-        const int boxWidth = kPayBoxWidths[static_cast<std::size_t>(row / 3)];
+        const int boxWidth = kPayBoxWidths[row / 3];
         const QString captionName = QStringLiteral("PayLabel%1").arg(row);
         w.payCaptions[row] = label(
             *frame, "", QString::fromLatin1(table[row].caption.data(), table[row].caption.size()),

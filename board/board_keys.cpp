@@ -42,7 +42,7 @@ void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
         button->installEventFilter(accessKeys);
     }
     for (int p = 0; p < 5; ++p) {
-        widgets.cards[static_cast<std::size_t>(p)]->setToolTip(
+        widgets.cards[p]->setToolTip(
             QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));
     }
     widgets.drawDeal->setToolTip(
@@ -56,7 +56,7 @@ bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
     }
     QPushButton* target = nullptr;
     if (event.key() >= Qt::Key_1 && event.key() <= Qt::Key_5) {
-        target = widgets.cards[static_cast<std::size_t>(event.key() - Qt::Key_1)];
+        target = widgets.cards[event.key() - Qt::Key_1];
     } else if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
         target = widgets.drawDeal;
     } else {

@@ -109,8 +109,7 @@ QPixmap drawStandInCard(const QString& fileName, QSize size, qreal devicePixelRa
                  QString());
     } else if (code >= 0 && code < kJokerCode) {
         const int suit = code / 13;
-        const QString text = QString::fromLatin1(kRankTexts[static_cast<std::size_t>(code % 13)]) +
-                             QChar(kSuitSymbols[static_cast<std::size_t>(suit)]);
+        const QString text = QString::fromLatin1(kRankTexts[code % 13]) + QChar(kSuitSymbols[suit]);
         const bool red = suit == 1 || suit == 2;
         const QString suffix = match.captured(2).toUpper();
         const QString note = suffix == QStringLiteral("W")   ? QStringLiteral("WILD")

@@ -38,7 +38,7 @@ void PlayController::showMoney(Control control, float value, std::string_view pa
 HandCards PlayController::cards() const {
     HandCards codes{};
     for (int p = 0; p < 5; ++p) {
-        codes[static_cast<std::size_t>(p)] = static_cast<CardCode>(std::lround(state_.Hand[p]));
+        codes[p] = static_cast<CardCode>(std::lround(state_.Hand[p]));
     }
     return codes;
 }
@@ -300,7 +300,7 @@ void PlayController::purchaseClicked() {
         option >= static_cast<int>(kPurchaseAmounts.size())) {
         return;
     }
-    const float amount = kPurchaseAmounts[static_cast<std::size_t>(option)];
+    const float amount = kPurchaseAmounts[option];
     state_.Credits = state_.Credits + amount;
     showMoney(Control::Credit, state_.Credits, pattern::kCredit);
     state_.TotalPurchased = state_.TotalPurchased + amount;

@@ -28,16 +28,14 @@ QString cardText(CardCode card) {
     if (card == kJoker) {
         return QStringLiteral("Joker");
     }
-    return QString::fromLatin1(kRankText[static_cast<std::size_t>(rankIndex(card))]) +
-           QChar(kSuitSymbol[static_cast<std::size_t>(suitIndex(card))]);
+    return QString::fromLatin1(kRankText[rankIndex(card)]) + QChar(kSuitSymbol[suitIndex(card)]);
 }
 
 QColor cardColour(CardCode card) {
     if (card == kJoker) {
         return QColor::fromRgba(kJokerInk);
     }
-    return QColor::fromRgba(validCard(card) ? kSuitInk[static_cast<std::size_t>(suitIndex(card))]
-                                            : kSuitInk[0]);
+    return QColor::fromRgba(validCard(card) ? kSuitInk[suitIndex(card)] : kSuitInk[0]);
 }
 
 QString cardHtml(CardCode card) {

@@ -84,7 +84,7 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     hits_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     hits_->horizontalHeader()->setStretchLastSection(true);
     for (int column = 0; column < kColumns; ++column) {
-        hits_->setColumnWidth(column, kColumnWidth[static_cast<std::size_t>(column)]);
+        hits_->setColumnWidth(column, kColumnWidth[column]);
     }
     hits_->setSelectionMode(QAbstractItemView::NoSelection);
     hits_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -127,9 +127,9 @@ void GameFigures::showScale(const odds::PayScale& scale, bool edited) {
     boardTable_->setEnabled(edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
-        QDoubleSpinBox* pay = pays_[static_cast<std::size_t>(row)];
+        QDoubleSpinBox* pay = pays_[row];
         const QSignalBlocker quiet(pay);
-        pay->setValue(scale.multiplier[static_cast<std::size_t>(code)]);
+        pay->setValue(scale.multiplier[code]);
     }
     if (facts(game_).bonus != Bonus::None) {
         hits_->setItem(
@@ -159,7 +159,7 @@ void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& s
     showScale(scale, edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
-        setFrequency(*hits_, row, result.codeProbability[static_cast<std::size_t>(code)]);
+        setFrequency(*hits_, row, result.codeProbability[code]);
     }
     if (facts(game_).bonus != Bonus::None) {
         setFrequency(*hits_, row, result.bonusProbability);

@@ -42,7 +42,7 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
     for (int column = 0; column < kColumns; ++column) {
-        setColumnWidth(column, kColumnWidth[static_cast<std::size_t>(column)]);
+        setColumnWidth(column, kColumnWidth[column]);
     }
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -63,10 +63,9 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
 void HoldTable::setHeaderCards(const DealtCards* dealt) {
     setHorizontalHeaderItem(kRankColumn, new QTableWidgetItem(QString()));
     for (int p = 0; p < 5; ++p) {
-        auto* header = new QTableWidgetItem(dealt ? cardText((*dealt)[static_cast<std::size_t>(p)])
-                                                  : QStringLiteral("-"));
+        auto* header = new QTableWidgetItem(dealt ? cardText((*dealt)[p]) : QStringLiteral("-"));
         if (dealt) {
-            header->setForeground(cardColour((*dealt)[static_cast<std::size_t>(p)]));
+            header->setForeground(cardColour((*dealt)[p]));
         }
         setHorizontalHeaderItem(kFirstCardColumn + p, header);
     }
@@ -104,7 +103,7 @@ void HoldTable::showOdds(const DealtCards& dealt, const odds::HandOdds& odds, fl
     clearRows();
     const auto order = odds.ranking();
     for (int row = 0; row < odds::kHoldCount; ++row) {
-        const unsigned held = order[static_cast<std::size_t>(row)];
+        const unsigned held = order[row];
         const odds::HoldOdds& hold = odds.holds[held];
         const bool best = static_cast<int>(held) == odds.best;
         auto* rank = makeItem(best ? tr("Best") : QString::number(row + 1), Qt::AlignCenter);
@@ -118,7 +117,7 @@ void HoldTable::showOdds(const DealtCards& dealt, const odds::HandOdds& odds, fl
         }
         for (int p = 0; p < 5 && held != 0; ++p) {
             const bool kept = ((held >> p) & 1u) != 0;
-            const CardCode card = dealt[static_cast<std::size_t>(p)];
+            const CardCode card = dealt[p];
             auto* cell = makeItem(kept ? cardText(card) : QString(), Qt::AlignCenter);
             if (kept) {
                 cell->setForeground(cardColour(card));

@@ -197,7 +197,7 @@ void StrategyWindow::setMultiplier(int code, double multiplier) {
         multiplier > GameFigures::kMostPay) {
         return;
     }
-    scale_.multiplier[static_cast<std::size_t>(code)] = multiplier;
+    scale_.multiplier[code] = multiplier;
     payScaleChanged();
 }
 

@@ -24,8 +24,7 @@ std::string cardText(CardCode card) {
     if (card < 0 || card > kJoker) {
         return "??";
     }
-    return {kRanks[static_cast<std::size_t>(rankIndex(card))],
-            kSuits[static_cast<std::size_t>(suitIndex(card))]};
+    return {kRanks[rankIndex(card)], kSuits[suitIndex(card)]};
 }
 
 // Quotes a field that holds a comma, a quote or a line break.

@@ -54,7 +54,7 @@ QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int 
         section >= Count) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }
-    return kHeaders[static_cast<std::size_t>(section)];
+    return kHeaders[section];
 }
 
 QVariant HistoryModel::data(const QModelIndex& index, int role) const {

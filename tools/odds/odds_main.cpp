@@ -152,9 +152,9 @@ int main(int argc, char** argv) {
     std::printf("%s: %llu deals in %zu classes\n", std::string(shortName(*game)).c_str(),
                 static_cast<unsigned long long>(result->deals), result->dealClasses);
     for (int code = topCode(*game); code >= 0; --code) {
-        const double p = result->codeProbability[static_cast<std::size_t>(code)];
+        const double p = result->codeProbability[code];
         std::printf("%2d %-32s x%-7g %.9f  1 in %.1f\n", code, codeLabel(*game, code).c_str(),
-                    scale.multiplier[static_cast<std::size_t>(code)], p, p > 0.0 ? 1.0 / p : 0.0);
+                    scale.multiplier[code], p, p > 0.0 ? 1.0 / p : 0.0);
     }
     if (facts(*game).bonus == Bonus::TreasureHunt) {
         std::printf("   %-32s +%-7g %.9f  1 in %.1f  (adds %.4f%%: one chest choice)\n",

@@ -237,7 +237,7 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     advisor.trainer(true);
 
     for (int code = 9; code >= 1; --code) {
-        advisor.pay(code)->setValue(kNineSix[static_cast<std::size_t>(9 - code)]);
+        advisor.pay(code)->setValue(kNineSix[9 - code]);
     }
     QVERIFY(advisor.window.payTableEdited());
     QVERIFY(advisor.label("PayTableNote").contains("Edited pay table"));

@@ -155,7 +155,7 @@ TEST(SuitClasses, CoverEverySetOnce) {
                 continue;
             }
             const auto& tables = odds::subsetClassTables(deck);
-            const auto& index = tables.classOfSet[static_cast<std::size_t>(size)];
+            const auto& index = tables.classOfSet[size];
             std::vector<std::uint64_t> members(classes.size());
             for (const std::uint16_t id : index) {
                 ++members[id];
@@ -208,12 +208,9 @@ TEST(DrawTables, OutcomesDoNotDependOnWhichSuitIsWhich) {
                                 std::array<CardCode, 5> renamed{};
                                 for (std::size_t i = 0; i < 5; ++i) {
                                     const CardCode card = hand[i];
-                                    renamed[i] =
-                                        card == kJoker
-                                            ? card
-                                            : renaming[static_cast<std::size_t>(suitIndex(card))] *
-                                                      13 +
-                                                  rankIndex(card);
+                                    renamed[i] = card == kJoker ? card
+                                                                : renaming[suitIndex(card)] * 13 +
+                                                                      rankIndex(card);
                                 }
                                 std::sort(renamed.begin(), renamed.end());
                                 differing += tables.handOutcome(renamed) != outcome;

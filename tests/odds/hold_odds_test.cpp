@@ -121,9 +121,9 @@ CodeCounts engineCounts(const odds::DrawTables& tables, const odds::HoldOdds& ho
     CodeCounts counts;
     for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
         const odds::Outcome outcome = tables.outcome(slot);
-        counts.all[outcome.code] += hold.counts[static_cast<std::size_t>(slot)];
+        counts.all[outcome.code] += hold.counts[slot];
         if (outcome.bonus) {
-            counts.bonus[outcome.code] += hold.counts[static_cast<std::size_t>(slot)];
+            counts.bonus[outcome.code] += hold.counts[slot];
         }
     }
     counts.draws = hold.draws;
@@ -203,7 +203,7 @@ TEST_P(HoldOddsBruteForce, EveryHoldOfAFewDeals) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllGames, HoldOddsBruteForce, ::testing::ValuesIn(kAllGames),
-                         [](const auto& info) { return std::string(shortName(info.param)); });
+                         [](const auto& suite) { return std::string(shortName(suite.param)); });
 
 } // namespace
 } // namespace marivale

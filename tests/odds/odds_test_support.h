@@ -87,19 +87,16 @@ inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
     const int n = static_cast<int>(stock.size());
     std::vector<int> pick(static_cast<std::size_t>(k));
     for (int i = 0; i < k; ++i) {
-        pick[static_cast<std::size_t>(i)] = i;
+        pick[i] = i;
     }
     CodeCounts counts;
     GameState state{};
     while (true) {
         for (int p = 0; p < 5; ++p) {
-            state.Hand[static_cast<std::size_t>(p)] =
-                static_cast<float>(deal[static_cast<std::size_t>(p)]);
+            state.Hand[p] = static_cast<float>(deal[p]);
         }
         for (int i = 0; i < k; ++i) {
-            state.Hand[static_cast<std::size_t>(open[static_cast<std::size_t>(i)])] =
-                static_cast<float>(
-                    stock[static_cast<std::size_t>(pick[static_cast<std::size_t>(i)])]);
+            state.Hand[open[i]] = static_cast<float>(stock[pick[i]]);
         }
         const std::uint8_t code = AnalyzeHand(state, game).code;
         ++counts.all[code];
@@ -109,15 +106,15 @@ inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
         ++counts.draws;
         // Next draw: lexicographic successor of the picked stock places.
         int i = k - 1;
-        while (i >= 0 && pick[static_cast<std::size_t>(i)] == n - k + i) {
+        while (i >= 0 && pick[i] == n - k + i) {
             --i;
         }
         if (i < 0) {
             break;
         }
-        ++pick[static_cast<std::size_t>(i)];
+        ++pick[i];
         for (int j = i + 1; j < k; ++j) {
-            pick[static_cast<std::size_t>(j)] = pick[static_cast<std::size_t>(j - 1)] + 1;
+            pick[j] = pick[j - 1] + 1;
         }
     }
     return counts;

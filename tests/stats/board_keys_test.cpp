@@ -49,7 +49,7 @@ void BoardKeysTest::holdKeys() {
     f.click("DrawDeal");
     const std::array<Qt::Key, 5> keys{Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5};
     for (int p = 0; p < 5; ++p) {
-        QTest::keyClick(f.board.get(), keys[static_cast<std::size_t>(p)], modifiers);
+        QTest::keyClick(f.board.get(), keys[p], modifiers);
         for (int q = 0; q < 5; ++q) {
             QCOMPARE(f.text(QStringLiteral("Card%1Ind").arg(q)),
                      q <= p ? QStringLiteral("Hold") : QString());

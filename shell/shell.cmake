@@ -23,27 +23,3 @@ target_link_libraries(marivale-poker PRIVATE marivale_shell)
 if(TARGET marivale_assets)
     add_dependencies(marivale-poker marivale_assets)
 endif()
-
-# Installation: the program, a launcher that runs it from the player's data folder, the
-# pictures and the bell, the icon and the menu entry.
-include(GNUInstallDirs)
-install(TARGETS marivale-poker RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(PROGRAMS marivale-poker-launch DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES marivale-poker.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES icons/marivale-poker.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES icons/marivale-poker.png
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/64x64/apps)
-# The pictures are made or copied into the program directory at build time, so they are
-# gathered from there when installing; the source assets folder serves when that is empty.
-install(CODE "
-    file(GLOB marivale_media \"${MARIVALE_RUN_DIR}/*.gif\" \"${MARIVALE_RUN_DIR}/*.wav\")
-    if(NOT marivale_media)
-        file(GLOB marivale_media \"${PROJECT_SOURCE_DIR}/assets/*.gif\"
-                                 \"${PROJECT_SOURCE_DIR}/assets/*.wav\")
-    endif()
-    if(marivale_media)
-        file(INSTALL \${marivale_media}
-             DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/marivale-poker\")
-    endif()
-")

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Builds the Debian package from a built tree and checks what a player's apt would get: the
+# program, the launcher, the pictures and bell, the icons, a menu entry that names its launcher
+# by full path, valid AppStream metainfo, and the declared dependencies.
+set -euo pipefail
+build="$1"
+out="$(mktemp -d)"
+trap 'rm -rf "$out"' EXIT
+(cd "$build" && cpack -G DEB -B "$out" >/dev/null)
+deb="$(ls "$out"/marivale-poker_*.deb)"
+dpkg-deb -x "$deb" "$out/root"
+fail=0
+check() {
+    if ! eval "$2"; then
+        echo "FAIL: $1"
+        fail=1
+    fi
+}
+root="$out/root/usr"
+check "program" "[ -x '$root/bin/marivale-poker' ]"
+check "launcher" "[ -x '$root/bin/marivale-poker-launch' ]"
+check "pictures" "[ \$(ls '$root/share/marivale-poker/'*.gif | wc -l) -eq 62 ]"
+check "bell" "[ -f '$root/share/marivale-poker/bell.wav' ]"
+check "icons" "[ -f '$root/share/icons/hicolor/scalable/apps/marivale-poker.svg' ]"
+check "menu entry names its launcher by full path" \
+    "grep -qx 'Exec=/usr/bin/marivale-poker-launch' '$root/share/applications/marivale-poker.desktop'"
+check "launcher finds the pictures" "grep -q '\\.\\./share/marivale-poker' '$root/bin/marivale-poker-launch'"
+if command -v appstreamcli >/dev/null; then
+    check "metainfo" "appstreamcli validate --no-net '$root/share/metainfo/'*.metainfo.xml >/dev/null"
+fi
+depends="$(dpkg-deb -f "$deb" Depends)"
+for need in fonts-liberation2 libqt6widgets6 libqt6multimedia6 libqt6charts6; do
+    check "depends on $need" "grep -q '$need' <<<'$depends'"
+done
+[ "$fail" -eq 0 ] && echo "package $(basename "$deb") is whole"
+exit "$fail"

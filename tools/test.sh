@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
-# Builds everything and runs every test. With --sanitize, builds under ASan and UBSan in build-asan.
+# Checks the format, builds everything with warnings as errors and runs every test.
+# With --sanitize, builds and runs them under ASan and UBSan in build-asan.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash tools/install-deps.sh
+bash tools/check-format.sh
 build=build
-extra=()
+# Warnings are errors here, so a warning never lands.
+extra=(-DMARIVALE_WERROR=ON)
 if [ "${1:-}" = "--sanitize" ]; then
     build=build-asan
-    extra=(-DMARIVALE_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug)
+    extra+=(-DMARIVALE_SANITIZE=ON -DCMAKE_BUILD_TYPE=Debug)
 fi
 cmake -S . -B "$build" "${extra[@]}" >/dev/null
 cmake --build "$build" -j 2

@@ -89,7 +89,7 @@ struct GameButton {
     GameId game;
     Place place;
 };
-constexpr std::array<GameButton, 4> kGameButtons{{
+constexpr std::array<GameButton, kGameCount> kGameButtons{{
     {GameId::DeucesWild, {152, 36, 142, 25}},
     {GameId::JacksOrBetter, {152, 66, 142, 25}},
     {GameId::JokerWild, {152, 96, 142, 25}},

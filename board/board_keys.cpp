@@ -7,40 +7,23 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcutEvent>
+
+// Marivale
+#include "bonus/access_keys.h"
 
 namespace marivale {
 namespace {
 
 constexpr int kGap = 8;
 
-// Makes a button's access key click at once, as the mouse does, instead of after the short
-// pressed-down animation, so that Alt+P then Enter buys before it deals.
-class ImmediateAccessKeys final : public QObject {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Shortcut) {
-            auto* button = qobject_cast<QPushButton*>(watched);
-            if (button != nullptr && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
-                button->click();
-                return true;
-            }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 } // namespace
 
 void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
-    auto* accessKeys = new ImmediateAccessKeys(&board);
     for (QPushButton* button : board.findChildren<QPushButton*>()) {
         button->setAutoDefault(false);
         button->setDefault(false);
-        button->installEventFilter(accessKeys);
     }
+    clickAccessKeysAtOnce(board);
     for (int p = 0; p < 5; ++p) {
         widgets.cards[p]->setToolTip(
             QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));

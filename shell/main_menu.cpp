@@ -16,12 +16,12 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcutEvent>
 #include <QTimer>
 
 // Marivale
 #include "board/game_board.h"
 #include "board/game_variant.h"
+#include "bonus/access_keys.h"
 #include "bonus/design_look.h"
 #include "engine/money_format.h"
 #include "shell/help_dialog.h"
@@ -177,7 +177,6 @@ void MainMenu::buildControls() {
         auto* button = new QPushButton(text(variant.menuCaption), client);
         button->setObjectName(text(variant.menuButton));
         place(*button, entry.place);
-        button->installEventFilter(this);
         const GameId game = entry.game;
         connect(button, &QPushButton::clicked, this, [this, game] { visitBoard(game); });
     }
@@ -186,11 +185,11 @@ void MainMenu::buildControls() {
         row[i] = new QPushButton(text(kRowButtons[i].caption), client);
         row[i]->setObjectName(text(kRowButtons[i].name));
         place(*row[i], kRowButtons[i].place);
-        row[i]->installEventFilter(this);
     }
     connect(row[0], &QPushButton::clicked, this, &MainMenu::clearTotal);
     connect(row[1], &QPushButton::clicked, this, &MainMenu::showHelp);
     connect(row[2], &QPushButton::clicked, this, &QWidget::close);
+    clickAccessKeysAtOnce(*this);
 
     // Each control gets the design face itself: a style sheet rule that matches a control would
     // otherwise give it a font of its own choosing.
@@ -292,19 +291,6 @@ void MainMenu::showTotal(std::string_view captionAtZero) {
 
 void MainMenu::showDoubleUpStatus() {
     statusBar_->showStatus(text(isSet(state_.DoubleUpEnabled) ? kDoubleUpOn : kDoubleUpOff));
-}
-
-// The access keys of the menu's buttons act at once, as a click does, rather than after the
-// short pressed-down animation a button shows by default.
-bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Shortcut) {
-        auto* button = qobject_cast<QPushButton*>(watched);
-        if (button != nullptr && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
-            button->click();
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
 }
 
 // The close sequence: the total first, then the other windows, then the placement.

@@ -403,8 +403,8 @@ void MainMenuTest::accessKeysOpenTheBoards() {
     menu->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(menu.get()));
     QTest::keyClick(menu->windowHandle(), static_cast<Qt::Key>(key), Qt::AltModifier);
-    // An access key presses the button briefly before it clicks.
-    QTRY_COMPARE(visits_.size(), std::size_t{1});
+    // An access key clicks at once, so keys typed quickly act in the order typed.
+    QCOMPARE(visits_.size(), std::size_t{1});
     QCOMPARE(static_cast<int>(visits_.front()), game);
 }
 

@@ -22,6 +22,7 @@
 #include <QtTest>
 
 // Marivale
+#include "data_folder.h"
 #include "shell/main_menu.h"
 #include "shell/quit_sequence.h"
 #include "shell/signal_bridge.h"
@@ -95,12 +96,7 @@ void LogoutCloseTest::initTestCase() {
 
 void LogoutCloseTest::init() {
     folder_ = std::make_unique<QTemporaryDir>();
-    QVERIFY(folder_->isValid());
-    const QDir program(programDirectory_);
-    for (const QString& name : program.entryList({"*.gif", "*.wav"}, QDir::Files)) {
-        QFile::link(program.absoluteFilePath(name), QDir(folder_->path()).filePath(name));
-    }
-    QVERIFY(QDir::setCurrent(folder_->path()));
+    QVERIFY(testing::enterDataFolder(*folder_, programDirectory_));
     QSettings("Vandrine", "Vandrine").clear();
     QFile file("mpdata.dat");
     QVERIFY(file.open(QIODevice::WriteOnly));

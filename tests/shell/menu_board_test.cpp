@@ -20,6 +20,7 @@
 #include <QtTest>
 
 // Marivale
+#include "data_folder.h"
 #include "shell/main_menu.h"
 
 namespace marivale {
@@ -69,12 +70,7 @@ void MenuBoardTest::initTestCase() {
 // A data folder of its own, holding links to the pictures and the bell, as the launcher makes.
 void MenuBoardTest::init() {
     folder_ = std::make_unique<QTemporaryDir>();
-    QVERIFY(folder_->isValid());
-    const QDir program(programDirectory_);
-    for (const QString& name : program.entryList({"*.gif", "*.wav"}, QDir::Files)) {
-        QFile::link(program.absoluteFilePath(name), QDir(folder_->path()).filePath(name));
-    }
-    QVERIFY(QDir::setCurrent(folder_->path()));
+    QVERIFY(testing::enterDataFolder(*folder_, programDirectory_));
 }
 
 void MenuBoardTest::cleanup() {

@@ -4,6 +4,14 @@
 #
 # Knobs, all optional, read by desktop_start:
 #   MARIVALE_BIN         the program directory (default: build/bin of the repository)
+#   MARIVALE_PROGRAM     the program itself (default: marivale-poker in MARIVALE_BIN); the pictures
+#                        and the bell are taken from its folder
+#   MARIVALE_DISPLAY     the display to create, e.g. :77; it must be free (default: any free one)
+#   MARIVALE_DESKTOP_DIR the folder for configuration, home and working folder; it is kept
+#                        afterwards (default: a new folder in /tmp, removed by desktop_stop)
+#   MARIVALE_LOG_DIR     where the logs of the X server, openbox, the bus and the program go
+#                        (default: the desktop folder)
+#   MARIVALE_WM          0: no window manager (default 1: openbox)
 #   MARIVALE_TITLE_PT    openbox title font size in points (default 8: a title bar of about 20 px)
 #   MARIVALE_BORDER      openbox border width in pixels (default 1)
 #   MARIVALE_NO_DECOR    1: windows get no title bar and no border at all
@@ -11,12 +19,17 @@
 #   MARIVALE_FONT_FAMILY the desktop's default font family with qt6ct (default DejaVu Sans)
 #   MARIVALE_SCREEN      the screen size (default 1280x1024)
 #   MARIVALE_SESSION_BUS 0: no D-Bus session bus (default 1: a private one, as on a desktop)
-# LANG and LC_ALL pass through to the program as the player's locale.
+# LANG and LC_ALL pass through to the program as the player's locale; ASAN_OPTIONS gains
+# detect_leaks=0, as the toolkit keeps memory until the process ends.
 
 DESKTOP_REPO="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
 DESKTOP_PIDS=()
 DESKTOP_TMP=""
+DESKTOP_OWN_TMP=0
+DESKTOP_LOGS=""
+DESKTOP_MEDIA=""
 APP_PID=""
+APP_STATUS=""
 
 desktop_log() { echo "[desktop] $*" >&2; }
 
@@ -83,58 +96,98 @@ EOF
     export QT_QPA_PLATFORMTHEME=qt6ct
 }
 
+# Makes the folder $1 (under the desktop folder unless absolute) with the pictures and the bell
+# linked in, as the launcher makes a working folder, and prints its path.
+desktop_folder() {
+    local folder="$1" file
+    [[ $folder == /* ]] || folder="$DESKTOP_TMP/$folder"
+    mkdir -p "$folder"
+    for file in "$DESKTOP_MEDIA"/*.gif "$DESKTOP_MEDIA"/bell.wav; do
+        if [ -e "$file" ]; then
+            ln -sf "$file" "$folder/"
+        fi
+    done
+    echo "$folder"
+}
+
+# Starts the X server on $1 and, unless switched off, openbox; true when both run.
+desktop_start_server() {
+    local xvfb wm
+    export DISPLAY="$1"
+    Xvfb "$DISPLAY" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
+        >"$DESKTOP_LOGS/xvfb.log" 2>&1 &
+    xvfb=$!
+    if desktop_retry 10 xdpyinfo && kill -0 "$xvfb" 2>/dev/null; then
+        if [ "${MARIVALE_WM:-1}" = 0 ]; then
+            DESKTOP_PIDS+=("$xvfb")
+            return 0
+        fi
+        openbox --sm-disable --config-file "$DESKTOP_TMP/openbox-rc.xml" \
+            >"$DESKTOP_LOGS/openbox.log" 2>&1 &
+        wm=$!
+        if desktop_retry 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'; then
+            DESKTOP_PIDS+=("$xvfb" "$wm")
+            return 0
+        fi
+        desktop_log "openbox did not start on $DISPLAY: $(head -c 300 "$DESKTOP_LOGS/openbox.log")"
+        kill "$wm" 2>/dev/null || true
+        wait "$wm" 2>/dev/null || true
+    fi
+    kill "$xvfb" 2>/dev/null || true
+    wait "$xvfb" 2>/dev/null || true
+    return 1
+}
+
+display_taken() { [ -e "/tmp/.X${1#:}-lock" ] || [ -e "/tmp/.X11-unix/X${1#:}" ]; }
+
 # Starts Xvfb and openbox and prepares the working folder; exports DISPLAY and the folders.
 desktop_start() {
-    DESKTOP_TMP="$(mktemp -d /tmp/marivale-desktop.XXXXXX)"
+    if [ -n "${MARIVALE_DESKTOP_DIR:-}" ]; then
+        mkdir -p "$MARIVALE_DESKTOP_DIR"
+        DESKTOP_TMP="$(cd "$MARIVALE_DESKTOP_DIR" && pwd)"
+        DESKTOP_OWN_TMP=0
+    else
+        DESKTOP_TMP="$(mktemp -d /tmp/marivale-desktop.XXXXXX)"
+        DESKTOP_OWN_TMP=1
+    fi
+    DESKTOP_LOGS="${MARIVALE_LOG_DIR:-$DESKTOP_TMP}"
     DESKTOP_MAIN_PID="$BASHPID"
     trap desktop_stop EXIT
-    local bin="${MARIVALE_BIN:-$DESKTOP_REPO/build/bin}"
+    APP_BINARY="${MARIVALE_PROGRAM:-${MARIVALE_BIN:-$DESKTOP_REPO/build/bin}/marivale-poker}"
+    DESKTOP_MEDIA="$(dirname "$APP_BINARY")"
     export XDG_CONFIG_HOME="$DESKTOP_TMP/config" XDG_DATA_HOME="$DESKTOP_TMP/data"
     export XDG_RUNTIME_DIR="$DESKTOP_TMP/runtime" HOME="$DESKTOP_TMP/home"
-    mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$HOME" "$XDG_RUNTIME_DIR" "$DESKTOP_TMP/work"
+    mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$HOME" "$XDG_RUNTIME_DIR" "$DESKTOP_LOGS"
     chmod 700 "$XDG_RUNTIME_DIR"
     unset WAYLAND_DISPLAY QT_QPA_PLATFORMTHEME QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS
-    export QT_QPA_PLATFORM=xcb
-    for file in "$bin"/*.gif "$bin"/bell.wav; do
-        [ -e "$file" ] && ln -s "$file" "$DESKTOP_TMP/work/"
-    done
-    APP_BINARY="$bin/marivale-poker"
+    export QT_QPA_PLATFORM=xcb ASAN_OPTIONS="detect_leaks=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
+    desktop_folder work >/dev/null
     [ -x "$APP_BINARY" ] || { desktop_log "no program at $APP_BINARY"; return 1; }
-    desktop_write_openbox_config
+    [ "${MARIVALE_WM:-1}" = 0 ] || desktop_write_openbox_config
     desktop_write_qt6ct_config
 
-    # A display number nobody uses (no lock file, no socket), from a random start so that two
-    # desktops started at once rarely meet; a failed start moves on to the next number.
-    local attempt number=$((140 + RANDOM % 100)) xvfb wm
-    for attempt in 1 2 3 4 5; do
-        while [ -e "/tmp/.X$number-lock" ] || [ -e "/tmp/.X11-unix/X$number" ]; do
-            number=$((number + 1))
-        done
-        export DISPLAY=":$number"
-        Xvfb "$DISPLAY" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
-            >"$DESKTOP_TMP/xvfb.log" 2>&1 &
-        xvfb=$!
-        if desktop_retry 10 xdpyinfo && kill -0 "$xvfb" 2>/dev/null; then
-            openbox --sm-disable --config-file "$DESKTOP_TMP/openbox-rc.xml" \
-                >"$DESKTOP_TMP/openbox.log" 2>&1 &
-            wm=$!
-            if desktop_retry 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"'; then
-                DESKTOP_PIDS+=("$xvfb" "$wm")
-                break
-            fi
-            desktop_log "openbox did not start on $DISPLAY: $(head -c 300 "$DESKTOP_TMP/openbox.log")"
-            kill "$wm" 2>/dev/null || true
-            wait "$wm" 2>/dev/null || true
+    if [ -n "${MARIVALE_DISPLAY:-}" ]; then
+        if display_taken "$MARIVALE_DISPLAY" || ! desktop_start_server "$MARIVALE_DISPLAY"; then
+            desktop_log "no desktop could be started on $MARIVALE_DISPLAY"
+            return 1
         fi
-        kill "$xvfb" 2>/dev/null || true
-        wait "$xvfb" 2>/dev/null || true
-        number=$((number + 1))
-        [ "$attempt" -lt 5 ] || { desktop_log "no desktop could be started"; return 1; }
-    done
+    else
+        # A display number nobody uses (no lock file, no socket), from a random start so that
+        # two desktops started at once rarely meet; a failed start moves on to the next number.
+        local attempt number=$((140 + RANDOM % 100))
+        for attempt in 1 2 3 4 5; do
+            while display_taken ":$number"; do
+                number=$((number + 1))
+            done
+            desktop_start_server ":$number" && break
+            number=$((number + 1))
+            [ "$attempt" -lt 5 ] || { desktop_log "no desktop could be started"; return 1; }
+        done
+    fi
     # A session bus, as every desktop has one; without it Qt waits for a bus it cannot find.
     if [ "${MARIVALE_SESSION_BUS:-1}" = 1 ] && command -v dbus-daemon >/dev/null; then
         dbus-daemon --session --nofork --nopidfile --address="unix:path=$XDG_RUNTIME_DIR/bus" \
-            >"$DESKTOP_TMP/dbus.log" 2>&1 &
+            >"$DESKTOP_LOGS/dbus.log" 2>&1 &
         DESKTOP_PIDS+=($!)
         export DBUS_SESSION_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/bus"
         desktop_retry 5 test -S "$XDG_RUNTIME_DIR/bus" || desktop_log "no session bus"
@@ -156,17 +209,41 @@ desktop_stop() {
         wait "$pid" 2>/dev/null || true
     done
     DESKTOP_PIDS=()
-    if [ -n "$DESKTOP_TMP" ] && [ -z "${MARIVALE_KEEP:-}" ]; then
+    if [ -n "$DESKTOP_TMP" ] && [ "$DESKTOP_OWN_TMP" = 1 ] && [ -z "${MARIVALE_KEEP:-}" ]; then
         rm -rf "$DESKTOP_TMP"
     fi
     DESKTOP_TMP=""
 }
 
+# Starts the program in the folder $1 (default: the working folder) with its output going to the
+# file $2 (default: app.log in the log folder), without waiting for it.
+app_launch() {
+    local folder="${1:-$DESKTOP_TMP/work}" log="${2:-$DESKTOP_LOGS/app.log}"
+    (cd "$folder" && exec "$APP_BINARY") >"$log" 2>&1 &
+    APP_PID=$!
+}
+
 # Starts the program in the working folder and waits for its main menu.
 app_start() {
-    (cd "$DESKTOP_TMP/work" && exec "$APP_BINARY") >"$DESKTOP_TMP/app.log" 2>&1 &
-    APP_PID=$!
+    app_launch "$DESKTOP_TMP/work" "$DESKTOP_LOGS/app.log"
     window_id "Marivale Poker" 15 >/dev/null
+}
+
+app_running() { [ -n "$APP_PID" ] && kill -0 "$APP_PID" 2>/dev/null; }
+
+# Waits up to $1 seconds for the program to end; once it has, sets APP_STATUS to its exit status
+# and forgets it. False when it is still running.
+app_wait() {
+    local tries=$((${1:-10} * 10))
+    [ -n "$APP_PID" ] || return 0
+    while kill -0 "$APP_PID" 2>/dev/null && ((tries-- > 0)); do
+        sleep 0.1
+    done
+    kill -0 "$APP_PID" 2>/dev/null && return 1
+    wait "$APP_PID" 2>/dev/null
+    # shellcheck disable=SC2034  # read by the scripts that source this file
+    APP_STATUS=$?
+    APP_PID=""
 }
 
 # Ends the program through its Exit button and waits for it; kills it after 10 s.
@@ -210,6 +287,29 @@ window_gone() {
     done
     return 1
 }
+
+# The program's top-level windows that the window manager holds, shown or not, bottom to top.
+app_windows() {
+    local list id
+    list="$(xprop -root _NET_CLIENT_LIST_STACKING 2>/dev/null | sed -e 's/.*# //' -e 's/,/ /g')"
+    for id in $list; do
+        [[ $id == 0x* ]] || continue
+        if xprop -id "$id" _NET_WM_PID 2>/dev/null | grep -q "= $APP_PID\$"; then
+            echo "$id"
+        fi
+    done
+}
+
+# The program's shown windows, one id a line (with or without a window manager).
+app_shown_windows() { xdotool search --onlyvisible --pid "$APP_PID" 2>/dev/null; }
+
+window_shown() { xwininfo -id "$1" 2>/dev/null | grep -q "Map State: IsViewable"; }
+
+window_title() { xprop -id "$1" WM_NAME 2>/dev/null | sed -n 's/.*= "\(.*\)"$/\1/p'; }
+
+# The time of the last input the toolkit took in window $1; it changes only while the program's
+# event loop runs.
+window_user_time() { xprop -id "$1" _NET_WM_USER_TIME 2>/dev/null | awk '{ print $NF }'; }
 
 # Sends a key chord (xdotool syntax, e.g. alt+d) to the window titled $1, after focusing it.
 send_keys() {

@@ -12,9 +12,9 @@
 #include <QRadioButton>
 
 // Marivale
-#include "bonus/design_look.h"
-#include "bonus/twips.h"
 #include "engine/pay_table.h"
+#include "ui/design_look.h"
+#include "ui/twips.h"
 
 namespace marivale {
 

@@ -10,7 +10,7 @@
 #include <QString>
 
 // Marivale
-#include "board/game_variant.h"
+#include "play/game_variant.h"
 
 class QDialog;
 class QFrame;

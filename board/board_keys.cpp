@@ -9,7 +9,7 @@
 #include <QScreen>
 
 // Marivale
-#include "bonus/access_keys.h"
+#include "ui/access_keys.h"
 
 namespace marivale {
 namespace {

@@ -3,6 +3,7 @@
 // Standard library
 #include <map>
 #include <memory>
+#include <utility>
 
 // Qt
 #include <QCheckBox>
@@ -16,16 +17,13 @@
 
 // Marivale
 #include "board/advisor/strategy_window.h"
-#include "board/bell.h"
 #include "board/board_design.h"
 #include "board/board_keys.h"
-#include "board/card_pictures.h"
-#include "board/play_controller.h"
-#include "board/stats/session_stats.h"
 #include "board/stats/stats_window.h"
-#include "bonus/double_up_dialog.h"
-#include "bonus/treasure_hunt_dialog.h"
-#include "shell/help_dialog.h"
+#include "play/play_controller.h"
+#include "play/stats/session_stats.h"
+#include "ui/bell.h"
+#include "ui/card_pictures.h"
 
 namespace marivale {
 
@@ -34,9 +32,10 @@ namespace marivale {
 class GameBoard::Impl final : public BoardView, public BonusGame {
 public:
     Impl(GameBoard& window, const GameVariant& variant, GameState& state, RandomSource& random,
-         SessionStats* stats)
+         BoardWindows windows, SessionStats* stats)
         : window_(window), variant_(variant), state_(state), random_(random),
-          widgets_(buildBoard(window, variant)), bell_(new Bell(&window)),
+          windows_(std::move(windows)), widgets_(buildBoard(window, variant)),
+          bell_(new Bell(&window)),
           ownStats_(stats == nullptr ? std::make_unique<SessionStats>() : nullptr),
           stats_(stats == nullptr ? *ownStats_ : *stats),
           controller_(variant, state, random, *this) {
@@ -78,6 +77,7 @@ private:
     const GameVariant& variant_;
     GameState& state_;
     RandomSource& random_;
+    BoardWindows windows_;
     BoardWidgets widgets_;
     CardPictures pictures_{};
     Bell* bell_{nullptr};
@@ -126,8 +126,9 @@ void GameBoard::Impl::connectClicks() {
     QObject::connect(w.betDn, &QPushButton::clicked, &window_, [c] { c->betDnClicked(); });
     QObject::connect(w.exit, &QPushButton::clicked, &window_, &QDialog::close);
     QObject::connect(w.help, &QPushButton::clicked, &window_, [this] {
-        HelpDialog help(&window_);
-        help.exec();
+        if (windows_.help) {
+            windows_.help(window_);
+        }
     });
     for (int p = 0; p < 5; ++p) {
         QObject::connect(w.cards[p], &QPushButton::clicked, &window_,
@@ -224,14 +225,16 @@ void GameBoard::Impl::bell(BellCommand command) {
 }
 
 void GameBoard::Impl::runDoubleUp() {
-    DoubleUpDialog dialog(state_, random_, pictures_, &window_);
-    dialog.exec();
+    if (windows_.doubleUp) {
+        windows_.doubleUp(window_, state_, random_, pictures_);
+    }
 }
 
 // The Treasure Hunt window is built afresh for every bonus.
 void GameBoard::Impl::play(GameState& state) {
-    TreasureHuntDialog dialog(random_, &window_);
-    dialog.play(state);
+    if (windows_.treasureHunt) {
+        windows_.treasureHunt(window_, state, random_);
+    }
 }
 
 void GameBoard::Impl::handDealt() {
@@ -302,8 +305,9 @@ void GameBoard::Impl::unloadOnce() {
 }
 
 GameBoard::GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
-                     QWidget* parent, SessionStats* stats)
-    : QDialog(parent), impl_(std::make_unique<Impl>(*this, variant, state, random, stats)) {}
+                     BoardWindows windows, QWidget* parent, SessionStats* stats)
+    : QDialog(parent),
+      impl_(std::make_unique<Impl>(*this, variant, state, random, std::move(windows), stats)) {}
 
 GameBoard::~GameBoard() {
     impl_->unloadOnce();

@@ -6,8 +6,9 @@
 
 #include <QDialog>
 
-#include "board/game_variant.h"
+#include "board/board_windows.h"
 #include "engine/random_source.h"
+#include "play/game_variant.h"
 #include "state/game_state.h"
 
 namespace marivale {
@@ -20,7 +21,7 @@ public:
     // Builds the board and runs its load: the visit's money, the pay table, the bell, the backs.
     // The visit's hands are recorded in the run's statistics when given, else in the board's own.
     GameBoard(const GameVariant& variant, GameState& state, RandomSource& random,
-              QWidget* parent = nullptr, SessionStats* stats = nullptr);
+              BoardWindows windows, QWidget* parent = nullptr, SessionStats* stats = nullptr);
     ~GameBoard() override;
 
     // Closing the board in any way unloads it: remaining credits are cashed out and the visit's

@@ -5,11 +5,11 @@
 #include <QPushButton>
 
 // Marivale
-#include "board/card_pictures.h"
-#include "bonus/design_look.h"
-#include "bonus/twips.h"
-#include "bonus/wrap_button.h"
 #include "engine/bonus_games.h"
+#include "ui/card_pictures.h"
+#include "ui/design_look.h"
+#include "ui/twips.h"
+#include "ui/wrap_button.h"
 
 namespace marivale {
 

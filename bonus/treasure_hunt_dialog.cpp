@@ -10,10 +10,10 @@
 #include <QPushButton>
 
 // Marivale
-#include "bonus/design_look.h"
-#include "bonus/twips.h"
 #include "engine/bonus_games.h"
 #include "engine/money_format.h"
+#include "ui/design_look.h"
+#include "ui/twips.h"
 
 // The chest pictures are compiled into this library; a static library must load them itself.
 static void initChestArt() {

@@ -12,7 +12,7 @@
 #include <QPushButton>
 
 // Marivale
-#include "bonus/design_look.h"
+#include "ui/design_look.h"
 
 namespace marivale {
 

@@ -19,14 +19,13 @@
 #include <QTimer>
 
 // Marivale
-#include "board/game_board.h"
-#include "board/game_variant.h"
-#include "bonus/access_keys.h"
-#include "bonus/design_look.h"
 #include "engine/money_format.h"
+#include "play/game_variant.h"
 #include "shell/help_dialog.h"
 #include "shell/menu_status_bar.h"
 #include "shell/placement.h"
+#include "ui/access_keys.h"
+#include "ui/design_look.h"
 
 namespace marivale {
 
@@ -118,8 +117,8 @@ void place(QWidget& widget, const Place& where) {
 
 } // namespace
 
-MainMenu::MainMenu(GameState& state, RandomSource& random, Hooks hooks, QWidget* parent)
-    : QMainWindow(parent), state_(state), random_(random), hooks_(std::move(hooks)) {
+MainMenu::MainMenu(GameState& state, Hooks hooks, QWidget* parent)
+    : QMainWindow(parent), state_(state), hooks_(std::move(hooks)) {
     setObjectName("frmMain");
     setWindowTitle("Marivale Poker");
     buildControls();
@@ -257,23 +256,13 @@ void MainMenu::showHelp() {
 void MainMenu::visitBoard(GameId game) {
     hide();
     if (hooks_.openBoard) {
-        hooks_.openBoard(game);
-    } else {
-        openRealBoard(game);
+        hooks_.openBoard(game, *this);
     }
     showTotal(variantFor(game).statCaptionAtZero);
     if (unattended_) {
         return; // the program is closing: the menu closes without showing itself again
     }
     show();
-}
-
-void MainMenu::openRealBoard(GameId game) {
-    QPointer<QDialog> board = new GameBoard(variantFor(game), state_, random_, this, &stats_);
-    // Closing a board returns to this menu; it never ends the program, even with the menu hidden.
-    board->setAttribute(Qt::WA_QuitOnClose, false);
-    board->exec();
-    delete board.data();
 }
 
 // Both displays of the total; captionAtZero is the path's caption for a total of exactly 0.

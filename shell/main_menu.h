@@ -16,9 +16,7 @@
 #include <QRect>
 
 // Marivale
-#include "board/stats/session_stats.h"
 #include "engine/game.h"
-#include "engine/random_source.h"
 #include "shell/total_keeper.h"
 #include "state/game_state.h"
 
@@ -33,8 +31,8 @@ class MenuStatusBar;
 
 // What the menu asks of the world outside it; an empty member uses the real thing.
 struct MainMenuHooks {
-    // Shows the game's board modally and returns once it has closed.
-    std::function<void(GameId)> openBoard{};
+    // Shows the game's board modally over the menu and returns once it has closed.
+    std::function<void(GameId, QWidget& menu)> openBoard{};
     // Tells the player about a data file that cannot be written.
     std::function<void(const QString&)> warn{};
 };
@@ -46,7 +44,7 @@ public:
 
     // Builds the window and runs its load: placement, Double Up off, the total from the data
     // file in the current directory.
-    MainMenu(GameState& state, RandomSource& random, Hooks hooks = {}, QWidget* parent = nullptr);
+    MainMenu(GameState& state, Hooks hooks, QWidget* parent = nullptr);
     ~MainMenu() override;
 
     // From now on the close asks nothing: a logout or a signal is closing the program, so a
@@ -71,7 +69,6 @@ private:
     void clearTotal();
     void showHelp();
     void visitBoard(GameId game);
-    void openRealBoard(GameId game);
     void showTotal(std::string_view captionAtZero);
     void showDoubleUpStatus();
     void unloadOtherWindows();
@@ -79,9 +76,7 @@ private:
     void fixPlacementOnceFramed();
 
     GameState& state_;
-    [[maybe_unused]] RandomSource& random_; // handed to the boards
     Hooks hooks_{};
-    SessionStats stats_{}; // the run's statistics, handed to every board
     TotalKeeper keeper_{};
     bool unattended_{false};        // closing for a logout or a signal: nobody is asked anything
     bool closing_{false};           // the close sequence has begun

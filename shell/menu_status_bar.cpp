@@ -13,7 +13,7 @@
 #include <QTimer>
 
 // Marivale
-#include "bonus/design_look.h"
+#include "ui/design_look.h"
 
 namespace marivale {
 

@@ -17,11 +17,12 @@
 #include <QMargins>
 #include <QRect>
 
+// Marivale
+#include "ui/twips.h"
+
 class QWidget;
 
 namespace marivale {
-
-inline constexpr int kTwipsPerPixel = 15;
 
 struct Placement {
     int left{1000};

@@ -13,12 +13,12 @@
 #include "board/advisor/bankroll_panel.h"
 #include "board/advisor/card_text.h"
 #include "board/advisor/game_figures.h"
-#include "board/advisor/game_odds_cache.h"
 #include "board/advisor/trainer_panel.h"
-#include "board/game_variant.h"
 #include "engine/hand_analysis.h"
 #include "engine/money_format.h"
 #include "engine/odds/draw_tables.h"
+#include "play/advisor/game_odds_cache.h"
+#include "play/game_variant.h"
 
 namespace marivale {
 namespace {

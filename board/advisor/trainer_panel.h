@@ -8,8 +8,8 @@
 
 // Marivale
 #include "board/advisor/hold_table.h"
-#include "board/advisor/trainer.h"
 #include "engine/odds/hold_odds.h"
+#include "play/advisor/trainer.h"
 
 class QCheckBox;
 class QLabel;

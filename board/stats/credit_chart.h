@@ -7,7 +7,7 @@
 #include <QChartView>
 
 // Marivale
-#include "board/stats/session_stats.h"
+#include "play/stats/session_stats.h"
 
 class QLineSeries;
 class QScatterSeries;

@@ -8,9 +8,9 @@
 
 // Marivale
 #include "board/advisor/card_text.h"
-#include "board/game_variant.h"
-#include "board/stats/history_csv.h"
 #include "engine/money_format.h"
+#include "play/game_variant.h"
+#include "play/stats/history_csv.h"
 
 namespace marivale {
 namespace {

@@ -8,7 +8,7 @@
 #include <QAbstractTableModel>
 
 // Marivale
-#include "board/stats/session_stats.h"
+#include "play/stats/session_stats.h"
 
 namespace marivale {
 

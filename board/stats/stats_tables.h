@@ -7,8 +7,8 @@
 #include <optional>
 
 // Marivale
-#include "board/stats/session_stats.h"
 #include "engine/odds/game_odds.h"
+#include "play/stats/session_stats.h"
 
 class QTableWidget;
 class QWidget;

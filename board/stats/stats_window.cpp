@@ -20,14 +20,14 @@
 #include <QVBoxLayout>
 
 // Marivale
-#include "board/advisor/game_odds_cache.h"
 #include "board/stats/credit_chart.h"
-#include "board/stats/history_csv.h"
 #include "board/stats/history_model.h"
-#include "board/stats/hold_judge.h"
 #include "board/stats/stats_tables.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
+#include "play/advisor/game_odds_cache.h"
+#include "play/stats/history_csv.h"
+#include "play/stats/hold_judge.h"
 
 namespace marivale {
 

@@ -15,7 +15,7 @@
 #include <QWidget>
 
 // Marivale
-#include "board/stats/session_stats.h"
+#include "play/stats/session_stats.h"
 
 class QLabel;
 class QTableView;

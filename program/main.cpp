@@ -7,6 +7,8 @@
 
 // Marivale
 #include "engine/random_source.h"
+#include "play/stats/session_stats.h"
+#include "program/program_windows.h"
 #include "shell/main_menu.h"
 #include "shell/quit_sequence.h"
 #include "shell/signal_bridge.h"
@@ -28,7 +30,8 @@ int main(int argc, char* argv[]) {
     marivale::applyStartupDefaults(state);
     marivale::ClockRandomSource random;
 
-    marivale::MainMenu menu(state, random);
+    marivale::SessionStats stats{}; // the run's statistics, kept across every board visit
+    marivale::MainMenu menu(state, marivale::programMenuHooks(state, random, stats));
     bool menuClosed = false;
     QObject::connect(&menu, &marivale::MainMenu::closed, &app, [&menuClosed] {
         menuClosed = true;

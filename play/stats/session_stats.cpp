@@ -1,4 +1,4 @@
-#include "board/stats/session_stats.h"
+#include "play/stats/session_stats.h"
 
 // Standard library
 #include <algorithm>

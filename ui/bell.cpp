@@ -1,4 +1,4 @@
-#include "board/bell.h"
+#include "ui/bell.h"
 
 // Qt
 #include <QDir>

@@ -8,8 +8,8 @@
 #include <optional>
 
 // Marivale
-#include "board/stats/session_stats.h"
 #include "engine/odds/hold_odds.h"
+#include "play/stats/session_stats.h"
 
 namespace marivale {
 

@@ -1,4 +1,4 @@
-#include "board/advisor/trainer.h"
+#include "play/advisor/trainer.h"
 
 // Standard library
 #include <cmath>

@@ -15,8 +15,8 @@
 #include <vector>
 
 // Marivale
-#include "board/hand_observer.h"
 #include "engine/odds/outcome.h"
+#include "play/hand_observer.h"
 
 namespace marivale {
 

@@ -1,4 +1,4 @@
-#include "bonus/wrap_button.h"
+#include "ui/wrap_button.h"
 
 // Qt
 #include <QFontMetrics>

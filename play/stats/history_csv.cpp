@@ -1,4 +1,4 @@
-#include "board/stats/history_csv.h"
+#include "play/stats/history_csv.h"
 
 // Standard library
 #include <array>
@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Marivale
-#include "board/game_variant.h"
+#include "play/game_variant.h"
 
 namespace marivale {
 namespace {

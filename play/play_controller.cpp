@@ -1,4 +1,4 @@
-#include "board/play_controller.h"
+#include "play/play_controller.h"
 
 // Standard library
 #include <array>

@@ -1,4 +1,4 @@
-#include "board/game_variant.h"
+#include "play/game_variant.h"
 
 // Standard library
 #include <array>

@@ -1,4 +1,4 @@
-#include "board/advisor/game_odds_cache.h"
+#include "play/advisor/game_odds_cache.h"
 
 // Standard library
 #include <array>

@@ -1,4 +1,4 @@
-#include "board/stats/hold_judge.h"
+#include "play/stats/hold_judge.h"
 
 // Marivale
 #include "engine/odds/draw_tables.h"

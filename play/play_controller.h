@@ -5,11 +5,11 @@
 // bet, cash-out, and the board's load and unload. What happens is also told to an optional
 // observer.
 
-#include "board/board_view.h"
-#include "board/game_variant.h"
-#include "board/hand_observer.h"
 #include "engine/hand_analysis.h"
 #include "engine/random_source.h"
+#include "play/board_view.h"
+#include "play/game_variant.h"
+#include "play/hand_observer.h"
 #include "state/game_state.h"
 
 namespace marivale {

@@ -1,4 +1,4 @@
-#include "board/card_pictures.h"
+#include "ui/card_pictures.h"
 
 // Standard library
 #include <algorithm>

@@ -11,6 +11,8 @@ function(marivale_add_qt_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE Qt6::Test Qt6::Widgets ${ARG_LIBS})
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY ${MARIVALE_RUN_DIR})
+    # Tests run from the program directory, beside the pictures and the bell.
+    add_dependencies(${name} marivale_assets)
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;HOME=${MARIVALE_TEST_HOME};XDG_RUNTIME_DIR=${MARIVALE_TEST_RUNTIME};XDG_CONFIG_HOME=${MARIVALE_TEST_HOME}/.config;ASAN_OPTIONS=detect_leaks=0")
 endfunction()

@@ -11,7 +11,7 @@
 
 // Marivale
 #include "board/board_keys.h"
-#include "board_fixture.h"
+#include "tests/support/board_fixture.h"
 
 using namespace marivale;
 using marivale::testing::BoardFixture;

@@ -11,8 +11,8 @@
 #include <QTemporaryDir>
 
 // Marivale
-#include "board/bell.h"
-#include "board_fixture.h"
+#include "tests/support/board_fixture.h"
+#include "ui/bell.h"
 
 using namespace marivale;
 using marivale::testing::answerModal;

@@ -10,7 +10,7 @@
 #include <QApplication>
 
 // Marivale
-#include "board_fixture.h"
+#include "tests/support/board_fixture.h"
 
 using namespace marivale;
 using marivale::testing::BoardFixture;

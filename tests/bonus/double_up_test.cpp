@@ -5,9 +5,9 @@
 #include <QtTest>
 
 // Marivale
-#include "board/card_pictures.h"
 #include "bonus/double_up_dialog.h"
-#include "test_support.h"
+#include "tests/support/test_support.h"
+#include "ui/card_pictures.h"
 
 using namespace marivale;
 

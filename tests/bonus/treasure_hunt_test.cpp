@@ -10,7 +10,7 @@
 
 // Marivale
 #include "bonus/treasure_hunt_dialog.h"
-#include "test_support.h"
+#include "tests/support/test_support.h"
 
 using namespace marivale;
 

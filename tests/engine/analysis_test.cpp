@@ -4,7 +4,7 @@
 
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
-#include "hand_text.h"
+#include "tests/support/hand_text.h"
 
 namespace marivale {
 namespace {

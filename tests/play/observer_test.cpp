@@ -8,8 +8,8 @@
 #include <vector>
 
 // Marivale
-#include "board/hand_observer.h"
-#include "fake_view.h"
+#include "play/hand_observer.h"
+#include "tests/support/fake_view.h"
 
 namespace marivale {
 namespace {

@@ -7,7 +7,7 @@
 #include <random>
 
 // Marivale
-#include "fake_view.h"
+#include "tests/support/fake_view.h"
 
 namespace marivale {
 namespace {

@@ -22,10 +22,11 @@
 #include <QtTest>
 
 // Marivale
-#include "data_folder.h"
+#include "program/program_windows.h"
 #include "shell/main_menu.h"
 #include "shell/quit_sequence.h"
 #include "shell/signal_bridge.h"
+#include "tests/support/data_folder.h"
 
 namespace marivale {
 
@@ -134,12 +135,13 @@ void LogoutCloseTest::signalClosesDoubleUpThenTheBoardThenTheMenu() {
     for (const int code : {27, 30, 34, 36, 38, 0}) {
         random.pushIndex(code, 52);
     }
-    MainMenu::Hooks hooks;
+    SessionStats stats;
+    MainMenu::Hooks hooks = programMenuHooks(state, random, stats);
     QStringList warnings;
     hooks.warn = [&warnings](const QString& text) {
         warnings.append(text);
     };
-    MainMenu menu(state, random, hooks);
+    MainMenu menu(state, hooks);
     LogoutWiring wiring(menu);
     QSignalSpy closed(&menu, &MainMenu::closed);
     menu.show();
@@ -181,7 +183,8 @@ void LogoutCloseTest::signalClosesTheHelpScreenAndTheMenu() {
     GameState state{};
     applyStartupDefaults(state);
     ScriptedRandomSource random;
-    MainMenu menu(state, random);
+    SessionStats stats;
+    MainMenu menu(state, programMenuHooks(state, random, stats));
     LogoutWiring wiring(menu);
     QSignalSpy closed(&menu, &MainMenu::closed);
     menu.show();

@@ -1,4 +1,4 @@
-#include "look_support.h"
+#include "tests/program/look_support.h"
 
 // Qt
 #include <QApplication>
@@ -6,12 +6,12 @@
 #include <QTimer>
 
 // Marivale
-#include "board/game_variant.h"
-#include "bonus/design_look.h"
 #include "engine/game.h"
-#include "hand_text.h"
-#include "legibility.h"
-#include "text_fit.h"
+#include "play/game_variant.h"
+#include "tests/support/hand_text.h"
+#include "tests/support/legibility.h"
+#include "tests/support/text_fit.h"
+#include "ui/design_look.h"
 
 namespace marivale::testing {
 
@@ -22,7 +22,7 @@ Visit::Visit(GameId g, float playUnit) : game(g) {
     menu.setObjectName(QStringLiteral("frmMain"));
     menu.resize(300, 200);
     menu.show();
-    board = new GameBoard(variantFor(game), state, random, &menu);
+    board = new GameBoard(variantFor(game), state, random, programBoardWindows(), &menu);
     board->show();
 }
 

@@ -15,6 +15,7 @@
 // Marivale
 #include "board/game_board.h"
 #include "engine/random_source.h"
+#include "program/program_windows.h"
 #include "state/game_state.h"
 
 namespace marivale::testing {

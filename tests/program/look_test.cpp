@@ -14,9 +14,9 @@
 #include <QtTest>
 
 // Marivale
-#include "legibility.h"
-#include "look_support.h"
-#include "text_fit.h"
+#include "tests/program/look_support.h"
+#include "tests/support/legibility.h"
+#include "tests/support/text_fit.h"
 
 using namespace marivale;
 using namespace marivale::testing;

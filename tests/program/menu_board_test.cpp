@@ -20,8 +20,9 @@
 #include <QtTest>
 
 // Marivale
-#include "data_folder.h"
+#include "program/program_windows.h"
 #include "shell/main_menu.h"
+#include "tests/support/data_folder.h"
 
 namespace marivale {
 
@@ -51,8 +52,9 @@ void script(ScriptedRandomSource& random, std::initializer_list<int> codes) {
 }
 
 // Menu hooks that collect the warnings the menu would show the player.
-MainMenu::Hooks collectingWarnings(QStringList& warnings) {
-    MainMenu::Hooks hooks;
+MainMenu::Hooks collectingWarnings(QStringList& warnings, GameState& state, RandomSource& random,
+                                   SessionStats& stats) {
+    MainMenu::Hooks hooks = programMenuHooks(state, random, stats);
     hooks.warn = [&warnings](const QString& text) {
         warnings.append(text);
     };
@@ -124,8 +126,9 @@ void MenuBoardTest::visit() {
     ScriptedRandomSource random;
     script(random, {2, 16, 32, 48, 11, 4, 20, 36, 51, 8});
     QStringList warnings;
-    const MainMenu::Hooks hooks = collectingWarnings(warnings);
-    MainMenu menu(state, random, hooks);
+    SessionStats stats;
+    const MainMenu::Hooks hooks = collectingWarnings(warnings, state, random, stats);
+    MainMenu menu(state, hooks);
     menu.show();
     QVERIFY(QTest::qWaitForWindowExposed(&menu));
 
@@ -216,9 +219,10 @@ void MenuBoardTest::wholeSessionAndTheNextRun() {
     // Jacks or Better deals a heart flush; Double Up shows an Ace; Deuces Wild deals nothing.
     script(random, {27, 30, 34, 36, 38, 0, 2, 16, 32, 48, 24});
     QStringList warnings;
-    const MainMenu::Hooks hooks = collectingWarnings(warnings);
+    SessionStats stats;
+    const MainMenu::Hooks hooks = collectingWarnings(warnings, state, random, stats);
     {
-        MainMenu menu(state, random, hooks);
+        MainMenu menu(state, hooks);
         menu.show();
         QVERIFY(QTest::qWaitForWindowExposed(&menu));
         QFile created("mpdata.dat");
@@ -276,7 +280,7 @@ void MenuBoardTest::wholeSessionAndTheNextRun() {
 
     GameState nextRun{};
     applyStartupDefaults(nextRun);
-    MainMenu again(nextRun, random, hooks);
+    MainMenu again(nextRun, hooks);
     again.show();
     QCOMPARE(nextRun.NetWinLoss, -1.0f);
     QCOMPARE(again.findChild<QLineEdit*>("WinLoss")->text(), QString("-$1.00"));

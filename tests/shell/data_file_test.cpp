@@ -21,7 +21,7 @@
 
 // Marivale
 #include "shell/data_file_save.h"
-#include "tests/shell/unprivileged.h"
+#include "tests/support/unprivileged.h"
 
 namespace marivale {
 namespace {

@@ -5,7 +5,7 @@
 
 // Marivale
 #include "shell/help_dialog.h"
-#include "test_support.h"
+#include "tests/support/test_support.h"
 
 using namespace marivale;
 

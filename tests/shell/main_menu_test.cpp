@@ -70,7 +70,6 @@ private:
     std::unique_ptr<QTemporaryDir> folder_{};
     QString startDirectory_{};
     GameState state_{};
-    ScriptedRandomSource random_{};
     QStringList warnings_{};
     std::vector<GameId> visits_{};
     std::optional<bool> menuVisibleDuringVisit_{};
@@ -108,7 +107,7 @@ std::unique_ptr<MainMenu> MainMenuTest::openMenu() {
     hooks.warn = [this](const QString& text) {
         warnings_.append(text);
     };
-    hooks.openBoard = [this](GameId game) {
+    hooks.openBoard = [this](GameId game, QWidget&) {
         visits_.push_back(game);
         for (QWidget* window : QApplication::topLevelWidgets()) {
             if (window->objectName() == "frmMain") {
@@ -117,7 +116,7 @@ std::unique_ptr<MainMenu> MainMenuTest::openMenu() {
         }
         state_.NetWinLoss = totalAfterVisit_;
     };
-    auto menu = std::make_unique<MainMenu>(state_, random_, hooks);
+    auto menu = std::make_unique<MainMenu>(state_, hooks);
     menu->show();
     if (!QTest::qWaitForWindowExposed(menu.get())) {
         qWarning("the menu was not exposed");

@@ -48,7 +48,6 @@ private:
     QTemporaryDir folder_{};
     QString startDirectory_{};
     GameState state_{};
-    ScriptedRandomSource random_{};
 };
 
 void PlacementTest::initTestCase() {
@@ -72,9 +71,9 @@ std::unique_ptr<MainMenu> PlacementTest::openMenu() {
     hooks.warn = [](const QString& text) {
         qWarning("unexpected warning: %s", qPrintable(text));
     };
-    hooks.openBoard = [](GameId) {
+    hooks.openBoard = [](GameId, QWidget&) {
     };
-    auto menu = std::make_unique<MainMenu>(state_, random_, hooks);
+    auto menu = std::make_unique<MainMenu>(state_, hooks);
     menu->show();
     if (!QTest::qWaitForWindowExposed(menu.get())) {
         qWarning("the menu was not exposed");

@@ -17,7 +17,7 @@
 
 // Marivale
 #include "shell/total_keeper.h"
-#include "tests/shell/unprivileged.h"
+#include "tests/support/unprivileged.h"
 
 namespace marivale {
 namespace {

@@ -1,4 +1,4 @@
-#include "board_fixture.h"
+#include "tests/support/board_fixture.h"
 
 // Qt
 #include <QApplication>
@@ -7,8 +7,8 @@
 #include <QtTest>
 
 // Marivale
-#include "board/card_pictures.h"
-#include "hand_text.h"
+#include "tests/support/hand_text.h"
+#include "ui/card_pictures.h"
 
 namespace marivale::testing {
 
@@ -16,7 +16,7 @@ BoardFixture::BoardFixture(GameId g, float netWinLoss, float playUnit, bool doub
     state.PlayUnit = playUnit;
     state.NetWinLoss = netWinLoss;
     state.DoubleUpEnabled = doubleUp ? kTrue : kFalse;
-    board = std::make_unique<GameBoard>(variantFor(game), state, random);
+    board = std::make_unique<GameBoard>(variantFor(game), state, random, programBoardWindows());
     board->show();
 }
 

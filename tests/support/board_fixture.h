@@ -12,6 +12,7 @@
 
 #include "board/game_board.h"
 #include "engine/random_source.h"
+#include "program/program_windows.h"
 #include "state/game_state.h"
 
 namespace marivale::testing {

@@ -1,7 +1,7 @@
-#include "fake_view.h"
+#include "tests/support/fake_view.h"
 
 // Marivale
-#include "hand_text.h"
+#include "tests/support/hand_text.h"
 
 namespace marivale::testing {
 

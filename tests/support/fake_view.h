@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "board/play_controller.h"
 #include "engine/random_source.h"
+#include "play/play_controller.h"
 
 namespace marivale::testing {
 

@@ -1,4 +1,4 @@
-#include "legibility.h"
+#include "tests/support/legibility.h"
 
 // Standard library
 #include <cmath>
@@ -12,7 +12,7 @@
 #include <QRadioButton>
 
 // Marivale
-#include "text_fit.h"
+#include "tests/support/text_fit.h"
 
 namespace marivale::testing {
 

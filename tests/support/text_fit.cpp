@@ -1,4 +1,4 @@
-#include "text_fit.h"
+#include "tests/support/text_fit.h"
 
 // Standard library
 #include <algorithm>

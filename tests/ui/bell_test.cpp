@@ -5,7 +5,7 @@
 #include <QtTest>
 
 // Marivale
-#include "board/bell.h"
+#include "ui/bell.h"
 
 using namespace marivale;
 

@@ -5,7 +5,7 @@
 #include <QtTest>
 
 // Marivale
-#include "board/card_pictures.h"
+#include "ui/card_pictures.h"
 
 using namespace marivale;
 

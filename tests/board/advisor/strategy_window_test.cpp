@@ -22,7 +22,7 @@
 #include "engine/odds/game_odds.h"
 #include "engine/odds/risk_of_ruin.h"
 #include "state/game_state.h"
-#include "tests/engine/hand_text.h"
+#include "tests/support/hand_text.h"
 
 using namespace marivale;
 

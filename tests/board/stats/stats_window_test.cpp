@@ -19,12 +19,12 @@
 
 // Marivale
 #include "board/stats/history_model.h"
-#include "board/stats/session_stats.h"
 #include "board/stats/stats_tables.h"
 #include "board/stats/stats_window.h"
-#include "board_fixture.h"
-#include "legibility.h"
-#include "text_fit.h"
+#include "play/stats/session_stats.h"
+#include "tests/support/board_fixture.h"
+#include "tests/support/legibility.h"
+#include "tests/support/text_fit.h"
 
 using namespace marivale;
 using marivale::testing::BoardFixture;
@@ -190,7 +190,8 @@ void StatsWindowTest::runFiguresOutliveABoard() {
         board.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
     };
     {
-        GameBoard jacks(variantFor(GameId::JacksOrBetter), state, random, nullptr, &stats);
+        GameBoard jacks(variantFor(GameId::JacksOrBetter), state, random, programBoardWindows(),
+                        nullptr, &stats);
         jacks.show();
         click(jacks, "Purchase");
         for (int hand = 0; hand < 2; ++hand) {
@@ -199,7 +200,8 @@ void StatsWindowTest::runFiguresOutliveABoard() {
         }
         openStats(jacks);
     }
-    GameBoard deuces(variantFor(GameId::DeucesWild), state, random, nullptr, &stats);
+    GameBoard deuces(variantFor(GameId::DeucesWild), state, random, programBoardWindows(), nullptr,
+                     &stats);
     deuces.show();
     click(deuces, "Purchase");
     click(deuces, "DrawDeal");

@@ -16,7 +16,7 @@
 #include "engine/odds/game_odds.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/suit_classes.h"
-#include "odds_test_support.h"
+#include "tests/support/odds_test_support.h"
 
 namespace marivale {
 namespace {

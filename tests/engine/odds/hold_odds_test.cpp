@@ -14,8 +14,8 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/pay_scale.h"
-#include "odds_test_support.h"
-#include "tests/engine/hand_text.h"
+#include "tests/support/hand_text.h"
+#include "tests/support/odds_test_support.h"
 
 namespace marivale {
 namespace {

@@ -15,7 +15,7 @@
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
 #include "engine/random_source.h"
-#include "odds_test_support.h"
+#include "tests/support/odds_test_support.h"
 
 namespace marivale {
 namespace {

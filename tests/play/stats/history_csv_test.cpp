@@ -9,7 +9,7 @@
 #include <vector>
 
 // Marivale
-#include "board/stats/history_csv.h"
+#include "play/stats/history_csv.h"
 
 namespace marivale {
 namespace {

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 
 // Marivale
-#include "board/stats/hold_judge.h"
-#include "board/stats/session_stats.h"
-#include "fake_view.h"
+#include "play/stats/hold_judge.h"
+#include "play/stats/session_stats.h"
+#include "tests/support/fake_view.h"
 
 namespace marivale {
 namespace {

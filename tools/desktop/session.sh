@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # A throw-away desktop for driving the real program: Xvfb with openbox, a private configuration,
 # and a working folder holding the pictures and the bell. Source this file, then call
 # desktop_start; desktop_stop (also run on exit) ends everything it started.
@@ -110,11 +111,13 @@ desktop_folder() {
     echo "$folder"
 }
 
-# Starts the X server on $1 and, unless switched off, openbox; true when both run.
+# Starts the X server on $1 and, unless switched off, openbox; true when both run. The server
+# must not reset when its first client (the readiness check) leaves, or openbox can meet it
+# mid-reset and find no display.
 desktop_start_server() {
     local xvfb wm
     export DISPLAY="$1"
-    Xvfb "$DISPLAY" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp \
+    Xvfb "$DISPLAY" -screen 0 "${MARIVALE_SCREEN:-1280x1024}x24" -nolisten tcp -noreset \
         >"$DESKTOP_LOGS/xvfb.log" 2>&1 &
     xvfb=$!
     if desktop_retry 10 xdpyinfo && kill -0 "$xvfb" 2>/dev/null; then
@@ -186,6 +189,7 @@ desktop_start() {
     fi
     # A session bus, as every desktop has one; without it Qt waits for a bus it cannot find.
     if [ "${MARIVALE_SESSION_BUS:-1}" = 1 ] && command -v dbus-daemon >/dev/null; then
+        rm -f "$XDG_RUNTIME_DIR/bus"
         dbus-daemon --session --nofork --nopidfile --address="unix:path=$XDG_RUNTIME_DIR/bus" \
             >"$DESKTOP_LOGS/dbus.log" 2>&1 &
         DESKTOP_PIDS+=($!)

@@ -65,41 +65,20 @@ done
 program="$(cd "$(dirname "$program")" && pwd)/$(basename "$program")"
 [ -x "$program" ] || { echo "soak: no program at $program" >&2; exit 2; }
 [ -n "$out" ] || out="$(mktemp -d /tmp/marivale-soak.XXXXXX)"
-mkdir -p "$out"
+mkdir -p "$out/logs"
 out="$(cd "$out" && pwd)"
-RANDOM=$((seed % 32768))
-
-work="$out/work"
 logs="$out/logs"
-mkdir -p "$work" "$logs" "$out/home/.config" "$out/runtime"
-chmod 700 "$out/runtime"
-for media in "$(dirname "$program")"/*.gif "$(dirname "$program")"/*.wav; do
-    [ -e "$media" ] && ln -sf "$media" "$work/"
-done
-export HOME="$out/home" XDG_CONFIG_HOME="$out/home/.config" XDG_RUNTIME_DIR="$out/runtime"
-export DISPLAY="$display" ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
-unset QT_QPA_PLATFORM
 
 log() { echo "[soak $(date +%H:%M:%S)] $*" | tee -a "$out/events.log" >&2; }
 
-xvfb_pid=""
-wm_pid=""
-app_pid=""
-cleanup() {
-    [ -n "$app_pid" ] && kill -KILL "$app_pid" 2>/dev/null
-    [ -n "$wm_pid" ] && kill "$wm_pid" 2>/dev/null
-    [ -n "$xvfb_pid" ] && kill "$xvfb_pid" 2>/dev/null
-    wait 2>/dev/null
-}
-trap cleanup EXIT
-
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp >"$logs/xvfb.log" 2>&1 &
-xvfb_pid=$!
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-xdpyinfo >/dev/null 2>&1 || { echo "soak: Xvfb did not start on $display" >&2; exit 2; }
-openbox >"$logs/openbox.log" 2>&1 &
-wm_pid=$!
-sleep 1
+# The desktop, its folders and the working folder live in the output folder and stay there.
+# shellcheck source-path=SCRIPTDIR source=../desktop/session.sh
+source "$repo/tools/desktop/session.sh"
+MARIVALE_PROGRAM="$program" MARIVALE_DISPLAY="$display" MARIVALE_DESKTOP_DIR="$out" \
+    MARIVALE_LOG_DIR="$logs" MARIVALE_SCREEN=1024x768 MARIVALE_WM=1 desktop_start ||
+    { echo "soak: Xvfb did not start on $display" >&2; exit 2; }
+work="$DESKTOP_TMP/work"
+RANDOM=$((seed % 32768))
 
 actions=0
 runs=0
@@ -139,48 +118,30 @@ start_run() {
     runs=$((runs + 1))
     run_log="$logs/run-$runs.log"
     caused=""
-    (cd "$work" && exec "$program") >"$run_log" 2>&1 &
-    app_pid=$!
+    app_launch "$work" "$run_log"
     last_input=$SECONDS
     grace=20
 }
 
 # Collects an ended run: its status, then the data file it left.
 end_run() {
-    local status=0
-    wait "$app_pid" 2>/dev/null
-    status=$?
+    local status
+    app_wait 10
+    status="$APP_STATUS"
     if [ "$status" -ne 0 ] && [ -z "$caused" ]; then
         crashes=$((crashes + 1))
         cp "$run_log" "$logs/crash-$runs.log"
         log "CRASH in run $runs: status $status (log: $logs/crash-$runs.log)"
     fi
     [ "$status" -eq 0 ] && rm -f "$run_log"
-    app_pid=""
     check_data_file
 }
-
-running() { [ -n "$app_pid" ] && kill -0 "$app_pid" 2>/dev/null; }
-
-# The program's top-level windows, bottom to top.
-program_windows() {
-    local list id
-    list="$(xprop -root _NET_CLIENT_LIST_STACKING 2>/dev/null | sed -e 's/.*# //' -e 's/,/ /g')"
-    for id in $list; do
-        [[ $id == 0x* ]] || continue
-        if xprop -id "$id" _NET_WM_PID 2>/dev/null | grep -q "= $app_pid\$"; then
-            echo "$id"
-        fi
-    done
-}
-
-viewable() { xwininfo -id "$1" 2>/dev/null | grep -q "Map State: IsViewable"; }
 
 # The topmost window of the program that is shown; empty when none is.
 top_window() {
     local id top=""
-    for id in $(program_windows); do
-        viewable "$id" && top="$id"
+    for id in $(app_windows); do
+        window_shown "$id" && top="$id"
     done
     echo "$top"
 }
@@ -188,8 +149,8 @@ top_window() {
 # The main menu, shown or minimised.
 menu_window() {
     local id
-    for id in $(program_windows); do
-        if xprop -id "$id" WM_NAME 2>/dev/null | grep -q '"Marivale Poker"'; then
+    for id in $(app_windows); do
+        if [ "$(window_title "$id")" = "Marivale Poker" ]; then
             echo "$id"
             return
         fi
@@ -198,8 +159,8 @@ menu_window() {
 
 user_times() {
     local id
-    for id in $(program_windows); do
-        xprop -id "$id" _NET_WM_USER_TIME 2>/dev/null | awk '{print $NF}'
+    for id in $(app_windows); do
+        window_user_time "$id"
     done | tr '\n' ' '
 }
 
@@ -226,7 +187,7 @@ probe_input() {
     xdotool windowfocus "$top" 2>/dev/null
     xdotool key shift 2>/dev/null
     for _ in $(seq 50); do
-        running || return 0
+        app_running || return 0
         [ -n "$(top_window)" ] || return 0
         after="$(user_times)"
         [ "$after" != "$before" ] && { last_input=$SECONDS; return 0; }
@@ -236,7 +197,7 @@ probe_input() {
     log "HANG in run $runs: the top window $top took no input for 5 s"
     import -window root "$logs/hang-$runs.png" 2>/dev/null
     caused=1
-    kill -KILL "$app_pid" 2>/dev/null
+    kill -KILL "$APP_PID" 2>/dev/null
 }
 
 click_in() {
@@ -258,17 +219,17 @@ send_signal() {
     local names=(TERM HUP INT) name
     name="${names[RANDOM % 3]}"
     signals=$((signals + 1))
-    kill -"$name" "$app_pid" 2>/dev/null
-    ((RANDOM % 4 == 0)) && kill -"${names[RANDOM % 3]}" "$app_pid" 2>/dev/null
+    kill -"$name" "$APP_PID" 2>/dev/null
+    ((RANDOM % 4 == 0)) && kill -"${names[RANDOM % 3]}" "$APP_PID" 2>/dev/null
     for _ in $(seq 150); do
-        running || return 0
+        app_running || return 0
         sleep 0.1
     done
     hangs=$((hangs + 1))
     log "HANG in run $runs: SIG$name did not end the program within 15 s"
     import -window root "$logs/hang-$runs.png" 2>/dev/null
     caused=1
-    kill -KILL "$app_pid" 2>/dev/null
+    kill -KILL "$APP_PID" 2>/dev/null
 }
 
 act() {
@@ -280,18 +241,18 @@ act() {
             # Only the minimised menu is left: the player brings it back from the task bar.
             xdotool windowactivate "$menu" 2>/dev/null
             last_input=$SECONDS
-        elif ((SECONDS - last_input > 5 + grace)) && running; then
+        elif ((SECONDS - last_input > 5 + grace)) && app_running; then
             hangs=$((hangs + 1))
             log "HANG in run $runs: no window of the program for 5 s"
             caused=1
-            kill -KILL "$app_pid" 2>/dev/null
+            kill -KILL "$APP_PID" 2>/dev/null
         fi
         sleep 0.1
         return
     fi
     actions=$((actions + 1))
     grace=0
-    title="$(xprop -id "$top" WM_NAME 2>/dev/null | sed -n 's/.*= "\(.*\)"$/\1/p')"
+    title="$(window_title "$top")"
     seen["${title:-?}"]=$((${seen["${title:-?}"]:-0} + 1))
     roll=$((RANDOM % 100))
     if ((roll < 45)); then
@@ -311,16 +272,16 @@ act() {
         title_button "$top" 0
     elif ((roll < 89)); then
         menu="$(menu_window)"
-        [ -n "$menu" ] && viewable "$menu" && xdotool windowminimize "$menu" 2>/dev/null
+        [ -n "$menu" ] && window_shown "$menu" && xdotool windowminimize "$menu" 2>/dev/null
     elif ((roll < 94)); then
         menu="$(menu_window)"
-        [ -n "$menu" ] && viewable "$menu" && title_button "$menu" 1
+        [ -n "$menu" ] && window_shown "$menu" && title_button "$menu" 1
     elif ((roll < 99)); then
         probe_input "$top"
     else
         send_signal
     fi
-    ((actions % 10 == 0)) && running && probe_input "$top"
+    ((actions % 10 == 0)) && app_running && probe_input "$top"
     sleep 0.0$((RANDOM % 10))
 }
 
@@ -328,7 +289,7 @@ log "soak of $program for $minutes min on $display, seed $seed, output in $out"
 end=$((SECONDS + $(awk -v m="$minutes" 'BEGIN { printf "%d", m * 60 }')))
 start_run
 while ((SECONDS < end)); do
-    if ! running; then
+    if ! app_running; then
         end_run
         start_run
         sleep 0.5
@@ -336,12 +297,12 @@ while ((SECONDS < end)); do
     fi
     act
 done
-if running; then
-    kill -TERM "$app_pid"
-    for _ in $(seq 150); do running || break; sleep 0.1; done
-    running && { caused=1; hangs=$((hangs + 1)); log "HANG: the last run did not close"; kill -KILL "$app_pid"; }
+if app_running; then
+    kill -TERM "$APP_PID"
+    for _ in $(seq 150); do app_running || break; sleep 0.1; done
+    app_running && { caused=1; hangs=$((hangs + 1)); log "HANG: the last run did not close"; kill -KILL "$APP_PID"; }
 fi
-[ -n "$app_pid" ] && end_run
+[ -n "$APP_PID" ] && end_run
 
 played=$(awk -v s="$SECONDS" 'BEGIN { printf "%.1f", s / 60 }')
 {

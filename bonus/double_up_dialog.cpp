@@ -8,6 +8,7 @@
 #include "engine/bonus_games.h"
 #include "ui/card_pictures.h"
 #include "ui/design_look.h"
+#include "ui/dialog_setup.h"
 #include "ui/twips.h"
 #include "ui/wrap_button.h"
 
@@ -37,15 +38,11 @@ DoubleUpDialog::DoubleUpDialog(GameState& state, RandomSource& random, CardPictu
 }
 
 void DoubleUpDialog::buildWindow() {
-    setObjectName(QStringLiteral("frmDup"));
-    setWindowTitle(QStringLiteral("Double Up"));
-    setModal(true);
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                   Qt::MSWindowsFixedSizeDialogHint);
-    setFixedSize(fromTwips(kWindow).size());
-    setFont(designFont(8.25, true));
-    setPalette(designPalette(QColor(255, 255, 0), Qt::black));
-    setAutoFillBackground(true);
+    setUpModalWindow(*this, {.name = QStringLiteral("frmDup"),
+                             .caption = QStringLiteral("Double Up"),
+                             .size = fromTwips(kWindow).size(),
+                             .ground = QColor(255, 255, 0),
+                             .text = Qt::black});
 
     title_ = new QLabel(QStringLiteral("Double Up"), this);
     title_->setObjectName(QStringLiteral("Label1"));

@@ -13,6 +13,7 @@
 #include "engine/bonus_games.h"
 #include "engine/money_format.h"
 #include "ui/design_look.h"
+#include "ui/dialog_setup.h"
 #include "ui/twips.h"
 
 // The chest pictures are compiled into this library; a static library must load them itself.
@@ -54,15 +55,11 @@ TreasureHuntDialog::TreasureHuntDialog(RandomSource& random, QWidget* parent)
 }
 
 void TreasureHuntDialog::buildWindow() {
-    setObjectName(QStringLiteral("TrTrip"));
-    setWindowTitle(QStringLiteral("Treasure Hunt"));
-    setModal(true);
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                   Qt::MSWindowsFixedSizeDialogHint);
-    setFixedSize(fromTwips(kWindow).size());
-    setFont(designFont(8.25, true));
-    setPalette(designPalette(QColor(0, 0, 192), Qt::white));
-    setAutoFillBackground(true);
+    setUpModalWindow(*this, {.name = QStringLiteral("TrTrip"),
+                             .caption = QStringLiteral("Treasure Hunt"),
+                             .size = fromTwips(kWindow).size(),
+                             .ground = QColor(0, 0, 192),
+                             .text = Qt::white});
 
     title_ = new QLabel(QStringLiteral("Treasure Hunt"), this);
     title_->setObjectName(QStringLiteral("Label1"));

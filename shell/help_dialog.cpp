@@ -13,6 +13,7 @@
 
 // Marivale
 #include "ui/design_look.h"
+#include "ui/dialog_setup.h"
 
 namespace marivale {
 
@@ -102,17 +103,14 @@ int fittingStretch(int width) {
 } // namespace
 
 HelpDialog::HelpDialog(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmHelp"));
-    setWindowTitle(QStringLiteral("Marivale Poker Help"));
-    setModal(true);
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                   Qt::MSWindowsFixedSizeDialogHint);
-    setFixedSize(kPageSize);
+    setUpModalWindow(*this, {.name = QStringLiteral("frmHelp"),
+                             .caption = QStringLiteral("Marivale Poker Help"),
+                             .size = kPageSize,
+                             .ground = Qt::white,
+                             .text = Qt::black});
     const int width = kPageSize.width() - 2 * kMargin;
     const int stretch = fittingStretch(width);
     setFont(pageFont(false, stretch));
-    setPalette(designPalette(Qt::white, Qt::black));
-    setAutoFillBackground(true);
 
     // Each item takes the height its text needs; the room left above the button is shared out
     // between the items.

@@ -237,6 +237,7 @@ app_running() { [ -n "$APP_PID" ] && kill -0 "$APP_PID" 2>/dev/null; }
 
 # Waits up to $1 seconds for the program to end; once it has, sets APP_STATUS to its exit status
 # and forgets it. False when it is still running.
+# shellcheck disable=SC2034  # APP_STATUS is read by the scripts that source this file
 app_wait() {
     local tries=$((${1:-10} * 10))
     [ -n "$APP_PID" ] || return 0
@@ -244,9 +245,8 @@ app_wait() {
         sleep 0.1
     done
     kill -0 "$APP_PID" 2>/dev/null && return 1
-    wait "$APP_PID" 2>/dev/null
-    # shellcheck disable=SC2034  # read by the scripts that source this file
-    APP_STATUS=$?
+    APP_STATUS=0
+    wait "$APP_PID" 2>/dev/null || APP_STATUS=$?
     APP_PID=""
 }
 

@@ -2,7 +2,6 @@
 
 // Standard library
 #include <array>
-#include <string>
 #include <utility>
 
 // Qt
@@ -19,7 +18,6 @@
 #include <QTimer>
 
 // Marivale
-#include "engine/money_format.h"
 #include "play/game_variant.h"
 #include "shell/help_dialog.h"
 #include "shell/menu_status_bar.h"
@@ -31,7 +29,6 @@ namespace marivale {
 
 namespace {
 
-constexpr std::string_view kTotalPattern = "$#,###,##0.00";
 const QColor kGreen(0, 128, 0);
 
 // The colours of the window's own controls: green, white text, white frame lines. The buttons
@@ -51,22 +48,6 @@ constexpr qreal kTitlePoints = 13.5;
 
 // The design's client area above the status bar: every control lies inside it.
 constexpr QSize kDesignClient{302, 209};
-
-constexpr std::string_view kDoubleUpOff = "Status: DoubleUp Not Enabled";
-constexpr std::string_view kDoubleUpOn = "Status: DoubleUp Enabled";
-
-// The Play Settings options: index, caption and the bet unit in dollars.
-struct PlayOption {
-    int index;
-    std::string_view caption;
-    float unit;
-};
-constexpr std::array<PlayOption, 4> kPlayOptions{{
-    {1, "$0.25 Game", 0.25f},
-    {2, "$1.00 Game", 1.00f},
-    {3, "$5.00 Game", 5.00f},
-    {4, "$10.00 Game", 10.00f},
-}};
 
 // A control's rectangle in the client area, in pixels.
 struct Place {
@@ -118,12 +99,13 @@ void place(QWidget& widget, const Place& where) {
 } // namespace
 
 MainMenu::MainMenu(GameState& state, Hooks hooks, QWidget* parent)
-    : QMainWindow(parent), state_(state), hooks_(std::move(hooks)) {
+    : QMainWindow(parent), hooks_(std::move(hooks)), controller_(state, *this, keeper_) {
     setObjectName("frmMain");
     setWindowTitle("Marivale Poker");
     buildControls();
     buildStatusBar();
-    loadWindow();
+    applySavedPlacement();
+    controller_.load();
 }
 
 MainMenu::~MainMenu() = default;
@@ -161,7 +143,8 @@ void MainMenu::buildControls() {
         playSettings_->addButton(button, option.index);
     }
     playSettings_->button(kPlayOptions.front().index)->setChecked(true);
-    connect(playSettings_, &QButtonGroup::idClicked, this, &MainMenu::setPlayUnit);
+    connect(playSettings_, &QButtonGroup::idClicked, this,
+            [this](int index) { controller_.playSettingClicked(index); });
 
     statFrame_ = new QGroupBox(QString(), client);
     statFrame_->setObjectName("StatFrame");
@@ -177,7 +160,8 @@ void MainMenu::buildControls() {
         button->setObjectName(text(variant.menuButton));
         place(*button, entry.place);
         const GameId game = entry.game;
-        connect(button, &QPushButton::clicked, this, [this, game] { visitBoard(game); });
+        connect(button, &QPushButton::clicked, this,
+                [this, game] { controller_.gameClicked(game); });
     }
     std::array<QPushButton*, kRowButtons.size()> row{};
     for (std::size_t i = 0; i < kRowButtons.size(); ++i) {
@@ -185,8 +169,8 @@ void MainMenu::buildControls() {
         row[i]->setObjectName(text(kRowButtons[i].name));
         place(*row[i], kRowButtons[i].place);
     }
-    connect(row[0], &QPushButton::clicked, this, &MainMenu::clearTotal);
-    connect(row[1], &QPushButton::clicked, this, &MainMenu::showHelp);
+    connect(row[0], &QPushButton::clicked, this, [this] { controller_.clearClicked(); });
+    connect(row[1], &QPushButton::clicked, this, [this] { controller_.helpClicked(); });
     connect(row[2], &QPushButton::clicked, this, &QWidget::close);
     clickAccessKeysAtOnce(*this);
 
@@ -201,50 +185,49 @@ void MainMenu::buildControls() {
 void MainMenu::buildStatusBar() {
     statusBar_ = new MenuStatusBar(this);
     setStatusBar(statusBar_);
-    connect(statusBar_, &MenuStatusBar::clicked, this, &MainMenu::toggleDoubleUp);
+    connect(statusBar_, &MenuStatusBar::clicked, this, [this] { controller_.statusBarClicked(); });
     setMinimumSize(qMax(kDesignClient.width(), statusBar_->minimumSizeHint().width()),
                    kDesignClient.height() + statusBar_->sizeHint().height());
 }
 
-// The window's load: placement, Double Up off, then the total or the recovery.
-void MainMenu::loadWindow() {
+// The first step of the load: the saved placement, in pixels on a screen.
+void MainMenu::applySavedPlacement() {
     placedRect_ = ontoScreens(pixelRect(loadPlacement()));
     const QMargins frame = frameMarginsOf(*this);
     placementUnframed_ = frame.isNull();
     applyPlacement(*this, placedRect_, frame);
-
-    state_.DoubleUpEnabled = kFalse;
-    showDoubleUpStatus();
-
-    // The total, or the recovery's 0; a file that cannot be kept is reported once.
-    const TotalKeeper::Loaded loaded = keeper_.load();
-    state_.NetWinLoss = loaded.total;
-    showTotal("");
-    if (!loaded.warning.empty()) {
-        warnPlayer(QString::fromStdString(loaded.warning));
-    }
 }
 
 void MainMenu::closeUnattended() {
-    unattended_ = true;
+    controller_.closeUnattended();
 }
 
-void MainMenu::setPlayUnit(int index) {
-    for (const PlayOption& option : kPlayOptions) {
-        if (option.index == index) {
-            state_.PlayUnit = option.unit;
-        }
+void MainMenu::setText(MenuText target, std::string_view shown) {
+    switch (target) {
+    case MenuText::WinLoss:
+        winLoss_->setText(text(shown));
+        break;
+    case MenuText::StatFrame:
+        statFrame_->setTitle(text(shown));
+        break;
+    case MenuText::DoubleUpStatus:
+        statusBar_->showStatus(text(shown));
+        break;
     }
 }
 
-void MainMenu::toggleDoubleUp() {
-    state_.DoubleUpEnabled = isSet(state_.DoubleUpEnabled) ? kFalse : kTrue;
-    showDoubleUpStatus();
+void MainMenu::hideMenu() {
+    hide();
 }
 
-void MainMenu::clearTotal() {
-    state_.NetWinLoss = 0.0f;
-    showTotal("Stats");
+void MainMenu::showMenu() {
+    show();
+}
+
+void MainMenu::openBoard(GameId game) {
+    if (hooks_.openBoard) {
+        hooks_.openBoard(game, *this);
+    }
 }
 
 void MainMenu::showHelp() {
@@ -253,55 +236,20 @@ void MainMenu::showHelp() {
     delete help.data();
 }
 
-void MainMenu::visitBoard(GameId game) {
-    hide();
-    if (hooks_.openBoard) {
-        hooks_.openBoard(game, *this);
-    }
-    showTotal(variantFor(game).statCaptionAtZero);
-    if (unattended_) {
-        return; // the program is closing: the menu closes without showing itself again
-    }
-    show();
-}
-
-// Both displays of the total; captionAtZero is the path's caption for a total of exactly 0.
-void MainMenu::showTotal(std::string_view captionAtZero) {
-    const float total = state_.NetWinLoss;
-    winLoss_->setText(QString::fromStdString(FormatMoney(total, kTotalPattern)));
-    if (total > 0.0f) {
-        statFrame_->setTitle("Winnings");
-    } else if (total < 0.0f) {
-        statFrame_->setTitle("Losses");
-    } else {
-        statFrame_->setTitle(text(captionAtZero));
-    }
-}
-
-void MainMenu::showDoubleUpStatus() {
-    statusBar_->showStatus(text(isSet(state_.DoubleUpEnabled) ? kDoubleUpOn : kDoubleUpOff));
-}
-
-// The close sequence: the total first, then the other windows, then the placement.
+// The close: the controller keeps the total and closes the other windows, then the placement
+// is saved unless the window is minimised.
 void MainMenu::closeEvent(QCloseEvent* event) {
-    if (closing_) {
-        event->accept(); // a second close while the first one runs
-        return;
-    }
-    closing_ = true;
-    const std::string problem = keeper_.save(state_.NetWinLoss);
-    if (!problem.empty()) {
-        warnPlayer(QString::fromStdString(problem));
-    }
-    unloadOtherWindows();
-    if (!isMinimized()) {
+    const bool first = controller_.close();
+    if (first && !isMinimized()) {
         savePlacement(placementOf(frameGeometry()));
     }
-    event->accept();
-    emit closed();
+    event->accept(); // a second close while the first one runs is let through
+    if (first) {
+        emit closed();
+    }
 }
 
-void MainMenu::unloadOtherWindows() {
+void MainMenu::closeOtherWindows() {
     const QWidgetList windows = QApplication::topLevelWidgets();
     QList<QPointer<QWidget>> others;
     for (QWidget* window : windows) {
@@ -318,16 +266,17 @@ void MainMenu::unloadOtherWindows() {
 
 // At the close the player reads the message before the program ends, unless nobody is there
 // to answer; otherwise it shows beside the menu without stopping anything.
-void MainMenu::warnPlayer(const QString& message) {
+void MainMenu::warn(std::string_view shown) {
+    const QString message = text(shown);
     if (hooks_.warn) {
         hooks_.warn(message);
         return;
     }
-    if (unattended_) {
+    if (controller_.unattended()) {
         qWarning("%s", qPrintable(message));
         return;
     }
-    if (closing_) {
+    if (controller_.closing()) {
         QMessageBox::warning(this, "Marivale Poker", message);
         return;
     }

@@ -1,13 +1,11 @@
 #pragma once
 
-// The main menu (frmMain): the bet unit, the Double Up switch, the running total and the way
-// into the four boards and the help screen. Its load restores the placement and the total, its
-// close writes them back. It owns no game data: it reads and writes PlayUnit, DoubleUpEnabled
-// and NetWinLoss of the one GameState.
+// The main menu window (frmMain): the controls of the bet unit, the Double Up switch, the running
+// total and the way into the four boards and the help screen. Its placement is restored at the
+// load and saved at the close; every rule of the menu is its controller's, and the window draws
+// what the controller tells it.
 
 // Standard library
-#include <array>
-#include <filesystem>
 #include <functional>
 #include <string_view>
 
@@ -17,6 +15,8 @@
 
 // Marivale
 #include "engine/game.h"
+#include "play/menu_controller.h"
+#include "play/menu_view.h"
 #include "shell/total_keeper.h"
 #include "state/game_state.h"
 
@@ -37,7 +37,7 @@ struct MainMenuHooks {
     std::function<void(const QString&)> warn{};
 };
 
-class MainMenu : public QMainWindow {
+class MainMenu : public QMainWindow, private MenuView {
     Q_OBJECT
 public:
     using Hooks = MainMenuHooks;
@@ -63,23 +63,21 @@ protected:
 private:
     void buildControls();
     void buildStatusBar();
-    void loadWindow();
-    void setPlayUnit(int index);
-    void toggleDoubleUp();
-    void clearTotal();
-    void showHelp();
-    void visitBoard(GameId game);
-    void showTotal(std::string_view captionAtZero);
-    void showDoubleUpStatus();
-    void unloadOtherWindows();
-    void warnPlayer(const QString& text);
+    void applySavedPlacement();
     void fixPlacementOnceFramed();
 
-    GameState& state_;
+    // What the controller asks of the window.
+    void setText(MenuText target, std::string_view text) override;
+    void hideMenu() override;
+    void showMenu() override;
+    void openBoard(GameId game) override;
+    void showHelp() override;
+    void warn(std::string_view message) override;
+    void closeOtherWindows() override;
+
     Hooks hooks_{};
     TotalKeeper keeper_{};
-    bool unattended_{false};        // closing for a logout or a signal: nobody is asked anything
-    bool closing_{false};           // the close sequence has begun
+    MenuController controller_;
     QRect placedRect_{};            // the outer rectangle the load applied, in pixels
     bool placementUnframed_{false}; // applied before the window manager framed the window
 

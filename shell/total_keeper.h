@@ -9,22 +9,18 @@
 #include <filesystem>
 #include <string>
 
+// Marivale
+#include "play/total_store.h"
+
 namespace marivale {
 
-class TotalKeeper {
+class TotalKeeper final : public TotalStore {
 public:
-    // The total to play with and, when something went wrong, the one message for the player.
-    struct Loaded {
-        float total{0.0f};
-        std::string warning{};
-    };
-
     // Reads the data file of the current folder, or runs the recovery.
-    Loaded load();
+    Loaded load() override;
 
-    // Writes the total; the message for the player when it could not be kept and nobody was
-    // told yet, otherwise empty.
-    std::string save(float total);
+    // Writes the total to the data file of the folder the load used.
+    std::string save(float total) override;
 
 private:
     std::string tell(std::string message);

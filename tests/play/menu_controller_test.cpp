@@ -1,0 +1,272 @@
+// The main menu's rules without a window: the bet unit, the Double Up switch, the total and its
+// caption on every path, the load and close around the kept total, and board visits.
+
+// Standard library
+#include <functional>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+// GoogleTest
+#include <gtest/gtest.h>
+
+// Marivale
+#include "play/game_variant.h"
+#include "play/menu_controller.h"
+
+namespace marivale {
+namespace {
+
+using Log = std::vector<std::string>;
+
+// A menu window that records what it is told and what it is asked, in order.
+class FakeMenu final : public MenuView {
+public:
+    explicit FakeMenu(Log& log) : log_(log) {}
+
+    void setText(MenuText target, std::string_view text) override {
+        texts[target] = std::string(text);
+    }
+    void hideMenu() override { log_.push_back("hide"); }
+    void showMenu() override { log_.push_back("show"); }
+    void openBoard(GameId game) override {
+        log_.push_back("board " + std::string(variantFor(game).boardName));
+        duringVisit();
+    }
+    void showHelp() override { log_.push_back("help"); }
+    void warn(std::string_view message) override { log_.push_back("warn " + std::string(message)); }
+    void closeOtherWindows() override { log_.push_back("close others"); }
+
+    std::map<MenuText, std::string> texts{};
+    std::function<void()> duringVisit{[] {
+    }};
+
+private:
+    Log& log_;
+};
+
+// A kept total that loads what it is given and records what it is asked to keep.
+class FakeStore final : public TotalStore {
+public:
+    explicit FakeStore(Log& log) : log_(log) {}
+
+    Loaded load() override { return loaded; }
+    std::string save(float total) override {
+        std::ostringstream record;
+        record << "save " << total;
+        log_.push_back(record.str());
+        return problem;
+    }
+
+    Loaded loaded{};
+    std::string problem{};
+
+private:
+    Log& log_;
+};
+
+// A menu on fakes; load() runs the menu's load.
+struct Menu {
+    Menu() { applyStartupDefaults(state); }
+    void load(float kept, std::string warning = {}) {
+        store.loaded = {kept, std::move(warning)};
+        controller.load();
+    }
+    std::string text(MenuText target) const {
+        const auto found = view.texts.find(target);
+        return found == view.texts.end() ? "<never set>" : found->second;
+    }
+
+    Log log{};
+    GameState state{};
+    FakeMenu view{log};
+    FakeStore store{log};
+    MenuController controller{state, view, store};
+};
+
+constexpr GameId DW = GameId::DeucesWild;
+constexpr GameId JB = GameId::JacksOrBetter;
+constexpr GameId WJ = GameId::JokerWild;
+constexpr GameId TT = GameId::TreasureTrips;
+
+TEST(MenuController, PlaySettingsSetTheBetUnit) {
+    const struct {
+        int index;
+        float unit;
+    } cases[] = {{1, 0.25f}, {2, 1.0f}, {3, 5.0f}, {4, 10.0f}, {0, 0.5f}, {5, 0.5f}, {-1, 0.5f}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.index);
+        Menu menu;
+        menu.state.PlayUnit = 0.5f; // no option's unit: an unknown index leaves it so
+        menu.controller.playSettingClicked(c.index);
+        EXPECT_EQ(menu.state.PlayUnit, c.unit);
+        EXPECT_TRUE(menu.view.texts.empty());
+        EXPECT_TRUE(menu.log.empty());
+    }
+}
+
+TEST(MenuController, LoadTurnsDoubleUpOffAndEachStatusBarClickTogglesIt) {
+    const struct {
+        int clicks;
+        std::int16_t flag;
+        const char* status;
+    } cases[] = {{0, kFalse, "Status: DoubleUp Not Enabled"},
+                 {1, kTrue, "Status: DoubleUp Enabled"},
+                 {2, kFalse, "Status: DoubleUp Not Enabled"},
+                 {3, kTrue, "Status: DoubleUp Enabled"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.clicks);
+        Menu menu;
+        menu.state.DoubleUpEnabled = kTrue;
+        menu.load(0.0f);
+        for (int click = 0; click < c.clicks; ++click) {
+            menu.controller.statusBarClicked();
+        }
+        EXPECT_EQ(menu.state.DoubleUpEnabled, c.flag);
+        EXPECT_EQ(menu.text(MenuText::DoubleUpStatus), c.status);
+    }
+}
+
+enum class Path : std::uint8_t { Load, Clear, Visit };
+
+// The total as the kept total, Clear or a board's visit leaves it, and the frame's caption,
+// whose text at 0 depends on the path.
+TEST(MenuController, TotalAndCaptionOnEveryPath) {
+    const struct {
+        const char* name;
+        Path path;
+        GameId game;
+        float total; // kept, or left by the visit; Clear starts from it
+        float after;
+        const char* shown;
+        const char* caption;
+    } cases[] = {
+        {"kept win", Path::Load, JB, 1234.5f, 1234.5f, "$1,234.50", "Winnings"},
+        {"kept quarter lost", Path::Load, JB, -0.25f, -0.25f, "-$0.25", "Losses"},
+        {"kept big win", Path::Load, JB, 1.5e7f, 1.5e7f, "$15,000,000.00", "Winnings"},
+        {"kept nothing", Path::Load, JB, 0.0f, 0.0f, "$0.00", ""},
+        {"cleared loss", Path::Clear, JB, -0.25f, 0.0f, "$0.00", "Stats"},
+        {"cleared win", Path::Clear, JB, 12.0f, 0.0f, "$0.00", "Stats"},
+        {"Deuces Wild at 0", Path::Visit, DW, 0.0f, 0.0f, "$0.00", "Stat"},
+        {"Treasure Trips at 0", Path::Visit, TT, 0.0f, 0.0f, "$0.00", "Stat"},
+        {"Jacks or Better at 0", Path::Visit, JB, 0.0f, 0.0f, "$0.00", "Stats"},
+        {"Joker Wild at 0", Path::Visit, WJ, 0.0f, 0.0f, "$0.00", "Stats"},
+        {"Deuces Wild won", Path::Visit, DW, 35.5f, 35.5f, "$35.50", "Winnings"},
+        {"Jacks or Better lost", Path::Visit, JB, -40.0f, -40.0f, "-$40.00", "Losses"},
+        {"Treasure Trips lost a quarter", Path::Visit, TT, -0.25f, -0.25f, "-$0.25", "Losses"},
+        {"Joker Wild big win", Path::Visit, WJ, 1234567.0f, 1234567.0f, "$1,234,567.00",
+         "Winnings"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Menu menu;
+        menu.state.NetWinLoss = 55.0f;
+        switch (c.path) {
+        case Path::Load:
+            menu.load(c.total);
+            break;
+        case Path::Clear:
+            menu.load(c.total);
+            menu.controller.clearClicked();
+            break;
+        case Path::Visit:
+            menu.load(12.0f);
+            menu.view.duringVisit = [&menu, &c] {
+                menu.state.NetWinLoss = c.total;
+            };
+            menu.controller.gameClicked(c.game);
+            break;
+        }
+        EXPECT_EQ(menu.state.NetWinLoss, c.after);
+        EXPECT_EQ(menu.text(MenuText::WinLoss), c.shown);
+        EXPECT_EQ(menu.text(MenuText::StatFrame), c.caption);
+        for (const std::string& entry : menu.log) {
+            EXPECT_EQ(entry.rfind("save", 0), std::string::npos) << "kept before the close";
+        }
+    }
+}
+
+TEST(MenuController, LoadTellsTheStoresMessageOnce) {
+    const struct {
+        const char* warning;
+        Log log;
+    } cases[] = {{"", {}}, {"Your total cannot be kept", {"warn Your total cannot be kept"}}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.warning);
+        Menu menu;
+        menu.load(0.0f, c.warning);
+        EXPECT_EQ(menu.log, c.log);
+        EXPECT_EQ(menu.text(MenuText::WinLoss), "$0.00");
+        EXPECT_EQ(menu.text(MenuText::StatFrame), "");
+    }
+}
+
+// The total is kept first, a problem keeping it is told once, then the other windows close;
+// a second close does nothing.
+TEST(MenuController, CloseKeepsTheTotalBeforeTheOtherWindowsClose) {
+    const struct {
+        const char* problem;
+        Log log;
+    } cases[] = {
+        {"", {"save -3.75", "close others"}},
+        {"could not be saved", {"save -3.75", "warn could not be saved", "close others"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.problem);
+        Menu menu;
+        menu.load(-3.75f);
+        menu.store.problem = c.problem;
+        EXPECT_FALSE(menu.controller.closing());
+        EXPECT_TRUE(menu.controller.close());
+        EXPECT_TRUE(menu.controller.closing());
+        EXPECT_FALSE(menu.controller.close());
+        EXPECT_EQ(menu.log, c.log);
+    }
+}
+
+// The menu hides for a visit and comes back, its settings as they were, unless the program is
+// closing unattended; help shows over the menu.
+TEST(MenuController, VisitsAndHelp) {
+    enum class When : std::uint8_t { Never, Before, DuringVisit };
+    const struct {
+        const char* name;
+        bool help;
+        When unattended;
+        Log log;
+    } cases[] = {
+        {"visit", false, When::Never, {"hide", "board JBBoard", "show"}},
+        {"closing unattended", false, When::Before, {"hide", "board JBBoard"}},
+        {"closing during the visit", false, When::DuringVisit, {"hide", "board JBBoard"}},
+        {"help", true, When::Never, {"help"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Menu menu;
+        menu.load(0.0f);
+        menu.controller.playSettingClicked(4);
+        menu.controller.statusBarClicked();
+        menu.view.duringVisit = [&menu, &c] {
+            menu.state.NetWinLoss = -5.0f;
+            if (c.unattended == When::DuringVisit) {
+                menu.controller.closeUnattended();
+            }
+        };
+        if (c.unattended == When::Before) {
+            menu.controller.closeUnattended();
+        }
+        if (c.help) {
+            menu.controller.helpClicked();
+        } else {
+            menu.controller.gameClicked(JB);
+            EXPECT_EQ(menu.text(MenuText::WinLoss), "-$5.00");
+        }
+        EXPECT_EQ(menu.log, c.log);
+        EXPECT_EQ(menu.state.PlayUnit, 10.0f);
+        EXPECT_EQ(menu.state.DoubleUpEnabled, kTrue);
+        EXPECT_EQ(menu.text(MenuText::DoubleUpStatus), "Status: DoubleUp Enabled");
+    }
+}
+
+} // namespace
+} // namespace marivale

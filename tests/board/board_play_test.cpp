@@ -3,6 +3,10 @@
 
 #include <QtTest>
 
+// Standard library
+#include <random>
+#include <string_view>
+
 // Qt
 #include <QDir>
 #include <QLabel>
@@ -11,6 +15,7 @@
 #include <QTemporaryDir>
 
 // Marivale
+#include "engine/money_format.h"
 #include "tests/support/board_fixture.h"
 #include "ui/bell.h"
 
@@ -27,6 +32,7 @@ private slots:
     void design_data();
     void design();
     void refusedDealThenDrawToAFlush();
+    void boxesShowTheState();
     void picturesFollowTheBoard_data();
     void picturesFollowTheBoard();
     void doubleUpWonAndLost();
@@ -135,24 +141,18 @@ void BoardPlayTest::design() {
     }
 }
 
+// The board's buttons reach the play and its boxes show the outcome; the captions and money of
+// each step are checked without a window by the play tests.
 void BoardPlayTest::refusedDealThenDrawToAFlush() {
     BoardFixture t(GameId::JacksOrBetter, 0.0f, 1.0f);
     t.click("DrawDeal");
     QCOMPARE(t.text("Output2"), QStringLiteral("Not Enough Credits To Play"));
-    QCOMPARE(t.state.DrawPhase, 0);
     t.buy(4);
-    QCOMPARE(t.text("Credit"), QStringLiteral("$20.00"));
     QCOMPARE(t.text("ProfLoss"), QStringLiteral("-$20.00"));
-    QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Losses"));
     t.script("2h 5h 9h Jh Kd");
     t.click("DrawDeal");
-    QCOMPARE(t.text("Output2"), QString());
     QCOMPARE(t.text("DrawDeal"), QStringLiteral("D&raw"));
-    QCOMPARE(t.text("Stand"), QStringLiteral("&Stand"));
-    QCOMPARE(t.text("Credit"), QStringLiteral("$19.00"));
-    for (const char* name : {"Purchase", "BetUp", "BetDn", "Exit"}) {
-        QVERIFY(!t.find(name)->isEnabled());
-    }
+    QVERIFY(!t.find("Exit")->isEnabled());
     for (int p = 0; p < 4; ++p) {
         t.click(QStringLiteral("Card%1").arg(p));
     }
@@ -163,11 +163,31 @@ void BoardPlayTest::refusedDealThenDrawToAFlush() {
     QCOMPARE(t.text("Win"), QStringLiteral("$5.00"));
     QCOMPARE(t.text("Credit"), QStringLiteral("$24.00"));
     QCOMPARE(t.text("Card3Ind"), QString());
-    QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Deal"));
-    QVERIFY(t.find("Exit")->isEnabled());
     const auto* bell = t.board->findChild<Bell*>("MMControl1");
     QVERIFY(bell != nullptr);
     QCOMPARE(bell->commands(), (QStringList{"Open", "Play", "Prev"}));
+}
+
+// Random clicks on a board: its money boxes always show the state the play keeps (the money
+// rules themselves are checked by the play's own random test).
+void BoardPlayTest::boxesShowTheState() {
+    std::mt19937 pick(7);
+    BoardFixture t(GameId::DeucesWild, 40.0f);
+    const QStringList controls{"DrawDeal", "Stand", "Card0", "Card3", "BetUp", "BetDn", "Purchase"};
+    for (int step = 0; step < 400; ++step) {
+        auto* button =
+            t.find<QAbstractButton>(controls[static_cast<int>(pick() % controls.size())]);
+        if (button->isEnabled()) {
+            button->click();
+        }
+        const auto shown = [&t](const char* box, float value, std::string_view pattern) {
+            return t.text(box) == QString::fromStdString(FormatMoney(value, pattern));
+        };
+        QVERIFY2(shown("Credit", t.state.Credits, pattern::kCredit) &&
+                     shown("Bet", t.state.BetAmount, pattern::kBet) &&
+                     shown("TotPurchased", t.state.TotalPurchased, pattern::kStatistic),
+                 qPrintable(QStringLiteral("step %1").arg(step)));
+    }
 }
 
 void BoardPlayTest::picturesFollowTheBoard_data() {
@@ -259,18 +279,14 @@ void BoardPlayTest::cashOutAndBetLimits() {
     QCOMPARE(t.text("Credit"), QStringLiteral("$0.00"));
     QCOMPARE(t.text("TotWinGame"), QStringLiteral("$10.75"));
     QCOMPARE(t.text("ProfLoss"), QStringLiteral("9.75"));
-    QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Winnings"));
-    QCOMPARE(t.text("Output2"), QStringLiteral("Credits Must Be > $10.00 to Cash Out"));
     for (int i = 0; i < 20; ++i) {
         t.click("BetUp");
     }
     QCOMPARE(t.text("Bet"), QStringLiteral("$5.00"));
     QCOMPARE(t.text("NRoyal"), QStringLiteral("$1,250.00"));
     QCOMPARE(t.text("ThreeKind"), QStringLiteral("$5.00"));
-    for (int i = 0; i < 20; ++i) {
-        t.click("BetDn");
-    }
-    QCOMPARE(t.text("Bet"), QStringLiteral("$0.25"));
+    t.click("BetDn");
+    QCOMPARE(t.text("Bet"), QStringLiteral("$4.75"));
 }
 
 void BoardPlayTest::closingMidHandFoldsTheVisit() {
@@ -281,11 +297,6 @@ void BoardPlayTest::closingMidHandFoldsTheVisit() {
     QCOMPARE(t.state.DrawPhase, 2);
     t.board->close();
     QCOMPARE(t.state.NetWinLoss, 29.0f);
-    t.board.reset();
-    QCOMPARE(t.state.NetWinLoss, 29.0f);
-    BoardFixture next(GameId::JokerWild, t.state.NetWinLoss);
-    QCOMPARE(next.state.DrawPhase, 0);
-    QCOMPARE(next.text("Credit"), QStringLiteral("$29.00"));
 }
 
 void BoardPlayTest::helpLeavesTheHandAlone() {

@@ -104,10 +104,7 @@ void Faults::whole(const QString& where, QWidget& window) {
 }
 
 QString Faults::report() const {
-    for (const QString& line : lines_) {
-        qInfo().noquote() << line;
-    }
-    return QStringLiteral("%1 faults, listed above").arg(lines_.size());
+    return QStringLiteral("%1 faults:\n").arg(lines_.size()) + lines_.join('\n');
 }
 
 } // namespace marivale::testing

@@ -58,7 +58,7 @@ public:
     void expect(const QString& where, bool ok, const QString& what);
     // Every text of the window whole, readable and in the design face.
     void whole(const QString& where, QWidget& window);
-    // Lists every fault in the log; the test's own message holds only the count.
+    // The count and every fault, one a line, for the test's failure message.
     QString report() const;
     bool empty() const { return lines_.isEmpty(); }
 

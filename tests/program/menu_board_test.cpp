@@ -134,6 +134,7 @@ void MenuBoardTest::visit() {
 
     bool boardSeen = false;
     bool menuHidden = false;
+    QStringList missing;
     // Waits for the board, plays the clicks on it, then leaves with its Exit button.
     std::function<void()> playBoard = [&] {
         QWidget* window = nullptr;
@@ -151,7 +152,7 @@ void MenuBoardTest::visit() {
         for (const QString& name : clicks) {
             auto* control = window->findChild<QPushButton*>(name);
             if (control == nullptr || !control->isEnabled()) {
-                qWarning("%s is not there to click", qPrintable(name));
+                missing << name;
                 break;
             }
             control->click();
@@ -166,6 +167,7 @@ void MenuBoardTest::visit() {
     QTest::mouseClick(menu.findChild<QPushButton*>(button), Qt::LeftButton);
 
     QVERIFY(boardSeen);
+    QVERIFY2(missing.isEmpty(), qPrintable("not there to click: " + missing.join(' ')));
     QVERIFY(menuHidden);
     QVERIFY(menu.isVisible());
     for (QWidget* window : QApplication::topLevelWidgets()) {

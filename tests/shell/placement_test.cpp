@@ -48,6 +48,7 @@ private:
     QTemporaryDir folder_{};
     QString startDirectory_{};
     GameState state_{};
+    QStringList problems_{}; // warnings shown and menus never exposed; each fails the test
 };
 
 void PlacementTest::initTestCase() {
@@ -59,24 +60,27 @@ void PlacementTest::initTestCase() {
 }
 
 void PlacementTest::init() {
+    problems_.clear();
     QSettings("Vandrine", "Vandrine").clear();
     state_ = GameState{};
     applyStartupDefaults(state_);
 }
 
-void PlacementTest::cleanup() {}
+void PlacementTest::cleanup() {
+    QVERIFY2(problems_.isEmpty(), qPrintable(problems_.join('\n')));
+}
 
 std::unique_ptr<MainMenu> PlacementTest::openMenu() {
     MainMenu::Hooks hooks;
-    hooks.warn = [](const QString& text) {
-        qWarning("unexpected warning: %s", qPrintable(text));
+    hooks.warn = [this](const QString& text) {
+        problems_ << "unexpected warning: " + text;
     };
     hooks.openBoard = [](GameId, QWidget&) {
     };
     auto menu = std::make_unique<MainMenu>(state_, hooks);
     menu->show();
     if (!QTest::qWaitForWindowExposed(menu.get())) {
-        qWarning("the menu was not exposed");
+        problems_ << QStringLiteral("the menu was not exposed");
     }
     return menu;
 }

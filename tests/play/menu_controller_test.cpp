@@ -20,69 +20,49 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-// A menu window that records what it is told and what it is asked, in order.
-class FakeMenu final : public MenuView {
-public:
-    explicit FakeMenu(Log& log) : log_(log) {}
+// A menu window and its kept total on fakes: records what the window is told and, in order,
+// what the window and the kept total are asked.
+struct Menu final : MenuView, TotalStore {
+    Menu() { applyStartupDefaults(state); }
+
+    // Runs the menu's load with this kept total.
+    void open(float kept, std::string warning = {}) {
+        loaded = {kept, std::move(warning)};
+        controller.load();
+    }
+    std::string text(MenuText target) const {
+        const auto found = texts.find(target);
+        return found == texts.end() ? "<never set>" : found->second;
+    }
 
     void setText(MenuText target, std::string_view text) override {
         texts[target] = std::string(text);
     }
-    void hideMenu() override { log_.push_back("hide"); }
-    void showMenu() override { log_.push_back("show"); }
+    void hideMenu() override { log.push_back("hide"); }
+    void showMenu() override { log.push_back("show"); }
     void openBoard(GameId game) override {
-        log_.push_back("board " + std::string(variantFor(game).boardName));
+        log.push_back("board " + std::string(variantFor(game).boardName));
         duringVisit();
     }
-    void showHelp() override { log_.push_back("help"); }
-    void warn(std::string_view message) override { log_.push_back("warn " + std::string(message)); }
-    void closeOtherWindows() override { log_.push_back("close others"); }
-
-    std::map<MenuText, std::string> texts{};
-    std::function<void()> duringVisit{[] {
-    }};
-
-private:
-    Log& log_;
-};
-
-// A kept total that loads what it is given and records what it is asked to keep.
-class FakeStore final : public TotalStore {
-public:
-    explicit FakeStore(Log& log) : log_(log) {}
-
+    void showHelp() override { log.push_back("help"); }
+    void warn(std::string_view message) override { log.push_back("warn " + std::string(message)); }
+    void closeOtherWindows() override { log.push_back("close others"); }
     Loaded load() override { return loaded; }
     std::string save(float total) override {
         std::ostringstream record;
         record << "save " << total;
-        log_.push_back(record.str());
+        log.push_back(record.str());
         return problem;
     }
 
+    Log log{};
+    std::map<MenuText, std::string> texts{};
+    std::function<void()> duringVisit{[] {
+    }};
     Loaded loaded{};
     std::string problem{};
-
-private:
-    Log& log_;
-};
-
-// A menu on fakes; load() runs the menu's load.
-struct Menu {
-    Menu() { applyStartupDefaults(state); }
-    void load(float kept, std::string warning = {}) {
-        store.loaded = {kept, std::move(warning)};
-        controller.load();
-    }
-    std::string text(MenuText target) const {
-        const auto found = view.texts.find(target);
-        return found == view.texts.end() ? "<never set>" : found->second;
-    }
-
-    Log log{};
     GameState state{};
-    FakeMenu view{log};
-    FakeStore store{log};
-    MenuController controller{state, view, store};
+    MenuController controller{state, *this, *this};
 };
 
 constexpr GameId DW = GameId::DeucesWild;
@@ -101,7 +81,7 @@ TEST(MenuController, PlaySettingsSetTheBetUnit) {
         menu.state.PlayUnit = 0.5f; // no option's unit: an unknown index leaves it so
         menu.controller.playSettingClicked(c.index);
         EXPECT_EQ(menu.state.PlayUnit, c.unit);
-        EXPECT_TRUE(menu.view.texts.empty());
+        EXPECT_TRUE(menu.texts.empty());
         EXPECT_TRUE(menu.log.empty());
     }
 }
@@ -119,7 +99,7 @@ TEST(MenuController, LoadTurnsDoubleUpOffAndEachStatusBarClickTogglesIt) {
         SCOPED_TRACE(c.clicks);
         Menu menu;
         menu.state.DoubleUpEnabled = kTrue;
-        menu.load(0.0f);
+        menu.open(0.0f);
         for (int click = 0; click < c.clicks; ++click) {
             menu.controller.statusBarClicked();
         }
@@ -138,25 +118,23 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
         Path path;
         GameId game;
         float total; // kept, or left by the visit; Clear starts from it
-        float after;
         const char* shown;
         const char* caption;
     } cases[] = {
-        {"kept win", Path::Load, JB, 1234.5f, 1234.5f, "$1,234.50", "Winnings"},
-        {"kept quarter lost", Path::Load, JB, -0.25f, -0.25f, "-$0.25", "Losses"},
-        {"kept big win", Path::Load, JB, 1.5e7f, 1.5e7f, "$15,000,000.00", "Winnings"},
-        {"kept nothing", Path::Load, JB, 0.0f, 0.0f, "$0.00", ""},
-        {"cleared loss", Path::Clear, JB, -0.25f, 0.0f, "$0.00", "Stats"},
-        {"cleared win", Path::Clear, JB, 12.0f, 0.0f, "$0.00", "Stats"},
-        {"Deuces Wild at 0", Path::Visit, DW, 0.0f, 0.0f, "$0.00", "Stat"},
-        {"Treasure Trips at 0", Path::Visit, TT, 0.0f, 0.0f, "$0.00", "Stat"},
-        {"Jacks or Better at 0", Path::Visit, JB, 0.0f, 0.0f, "$0.00", "Stats"},
-        {"Joker Wild at 0", Path::Visit, WJ, 0.0f, 0.0f, "$0.00", "Stats"},
-        {"Deuces Wild won", Path::Visit, DW, 35.5f, 35.5f, "$35.50", "Winnings"},
-        {"Jacks or Better lost", Path::Visit, JB, -40.0f, -40.0f, "-$40.00", "Losses"},
-        {"Treasure Trips lost a quarter", Path::Visit, TT, -0.25f, -0.25f, "-$0.25", "Losses"},
-        {"Joker Wild big win", Path::Visit, WJ, 1234567.0f, 1234567.0f, "$1,234,567.00",
-         "Winnings"},
+        {"kept win", Path::Load, JB, 1234.5f, "$1,234.50", "Winnings"},
+        {"kept quarter lost", Path::Load, JB, -0.25f, "-$0.25", "Losses"},
+        {"kept big win", Path::Load, JB, 1.5e7f, "$15,000,000.00", "Winnings"},
+        {"kept nothing", Path::Load, JB, 0.0f, "$0.00", ""},
+        {"cleared loss", Path::Clear, JB, -0.25f, "$0.00", "Stats"},
+        {"cleared win", Path::Clear, JB, 12.0f, "$0.00", "Stats"},
+        {"Deuces Wild at 0", Path::Visit, DW, 0.0f, "$0.00", "Stat"},
+        {"Treasure Trips at 0", Path::Visit, TT, 0.0f, "$0.00", "Stat"},
+        {"Jacks or Better at 0", Path::Visit, JB, 0.0f, "$0.00", "Stats"},
+        {"Joker Wild at 0", Path::Visit, WJ, 0.0f, "$0.00", "Stats"},
+        {"Deuces Wild won", Path::Visit, DW, 35.5f, "$35.50", "Winnings"},
+        {"Jacks or Better lost", Path::Visit, JB, -40.0f, "-$40.00", "Losses"},
+        {"Treasure Trips lost a quarter", Path::Visit, TT, -0.25f, "-$0.25", "Losses"},
+        {"Joker Wild big win", Path::Visit, WJ, 1234567.0f, "$1,234,567.00", "Winnings"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -164,21 +142,21 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
         menu.state.NetWinLoss = 55.0f;
         switch (c.path) {
         case Path::Load:
-            menu.load(c.total);
+            menu.open(c.total);
             break;
         case Path::Clear:
-            menu.load(c.total);
+            menu.open(c.total);
             menu.controller.clearClicked();
             break;
         case Path::Visit:
-            menu.load(12.0f);
-            menu.view.duringVisit = [&menu, &c] {
+            menu.open(12.0f);
+            menu.duringVisit = [&menu, &c] {
                 menu.state.NetWinLoss = c.total;
             };
             menu.controller.gameClicked(c.game);
             break;
         }
-        EXPECT_EQ(menu.state.NetWinLoss, c.after);
+        EXPECT_EQ(menu.state.NetWinLoss, c.path == Path::Clear ? 0.0f : c.total);
         EXPECT_EQ(menu.text(MenuText::WinLoss), c.shown);
         EXPECT_EQ(menu.text(MenuText::StatFrame), c.caption);
         for (const std::string& entry : menu.log) {
@@ -187,36 +165,23 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
     }
 }
 
-TEST(MenuController, LoadTellsTheStoresMessageOnce) {
+// A problem with the kept total is told as the load or the close finds it; the close keeps the
+// total first, then closes the other windows, and a second close does nothing.
+TEST(MenuController, TheKeptTotalAtTheLoadAndTheClose) {
     const struct {
-        const char* warning;
-        Log log;
-    } cases[] = {{"", {}}, {"Your total cannot be kept", {"warn Your total cannot be kept"}}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.warning);
-        Menu menu;
-        menu.load(0.0f, c.warning);
-        EXPECT_EQ(menu.log, c.log);
-        EXPECT_EQ(menu.text(MenuText::WinLoss), "$0.00");
-        EXPECT_EQ(menu.text(MenuText::StatFrame), "");
-    }
-}
-
-// The total is kept first, a problem keeping it is told once, then the other windows close;
-// a second close does nothing.
-TEST(MenuController, CloseKeepsTheTotalBeforeTheOtherWindowsClose) {
-    const struct {
-        const char* problem;
+        const char* atLoad;
+        const char* atClose;
         Log log;
     } cases[] = {
-        {"", {"save -3.75", "close others"}},
-        {"could not be saved", {"save -3.75", "warn could not be saved", "close others"}},
+        {"", "", {"save -3.75", "close others"}},
+        {"cannot be kept", "", {"warn cannot be kept", "save -3.75", "close others"}},
+        {"", "not saved", {"save -3.75", "warn not saved", "close others"}},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.problem);
+        SCOPED_TRACE(std::string(c.atLoad) + c.atClose);
         Menu menu;
-        menu.load(-3.75f);
-        menu.store.problem = c.problem;
+        menu.open(-3.75f, c.atLoad);
+        menu.problem = c.atClose;
         EXPECT_FALSE(menu.controller.closing());
         EXPECT_TRUE(menu.controller.close());
         EXPECT_TRUE(menu.controller.closing());
@@ -225,28 +190,24 @@ TEST(MenuController, CloseKeepsTheTotalBeforeTheOtherWindowsClose) {
     }
 }
 
-// The menu hides for a visit and comes back, its settings as they were, unless the program is
-// closing unattended; help shows over the menu.
-TEST(MenuController, VisitsAndHelp) {
+// The menu hides for a visit and shows the visit's total, then comes back unless the program
+// is closing unattended.
+TEST(MenuController, AVisitHidesTheMenuUntilTheBoardCloses) {
     enum class When : std::uint8_t { Never, Before, DuringVisit };
     const struct {
         const char* name;
-        bool help;
         When unattended;
         Log log;
     } cases[] = {
-        {"visit", false, When::Never, {"hide", "board JBBoard", "show"}},
-        {"closing unattended", false, When::Before, {"hide", "board JBBoard"}},
-        {"closing during the visit", false, When::DuringVisit, {"hide", "board JBBoard"}},
-        {"help", true, When::Never, {"help"}},
+        {"visit", When::Never, {"hide", "board JBBoard", "show"}},
+        {"closing unattended", When::Before, {"hide", "board JBBoard"}},
+        {"closing during the visit", When::DuringVisit, {"hide", "board JBBoard"}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Menu menu;
-        menu.load(0.0f);
-        menu.controller.playSettingClicked(4);
-        menu.controller.statusBarClicked();
-        menu.view.duringVisit = [&menu, &c] {
+        menu.open(0.0f);
+        menu.duringVisit = [&menu, &c] {
             menu.state.NetWinLoss = -5.0f;
             if (c.unattended == When::DuringVisit) {
                 menu.controller.closeUnattended();
@@ -255,16 +216,9 @@ TEST(MenuController, VisitsAndHelp) {
         if (c.unattended == When::Before) {
             menu.controller.closeUnattended();
         }
-        if (c.help) {
-            menu.controller.helpClicked();
-        } else {
-            menu.controller.gameClicked(JB);
-            EXPECT_EQ(menu.text(MenuText::WinLoss), "-$5.00");
-        }
+        menu.controller.gameClicked(JB);
         EXPECT_EQ(menu.log, c.log);
-        EXPECT_EQ(menu.state.PlayUnit, 10.0f);
-        EXPECT_EQ(menu.state.DoubleUpEnabled, kTrue);
-        EXPECT_EQ(menu.text(MenuText::DoubleUpStatus), "Status: DoubleUp Enabled");
+        EXPECT_EQ(menu.text(MenuText::WinLoss), "-$5.00");
     }
 }
 

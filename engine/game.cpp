@@ -191,7 +191,7 @@ static_assert(
 } // namespace
 
 const GameFacts& facts(GameId game) {
-    return kFacts.at(static_cast<std::size_t>(game));
+    return kFacts.at(gameIndex(game));
 }
 
 std::string_view shortName(GameId game) {

@@ -17,7 +17,11 @@ namespace marivale {
 
 enum class GameId : std::uint8_t { TreasureTrips, DeucesWild, JokerWild, JacksOrBetter, Count };
 
-inline constexpr std::size_t kGameCount = static_cast<std::size_t>(GameId::Count);
+// The row of a table indexed by game; every per-game table has kGameCount rows.
+constexpr std::size_t gameIndex(GameId game) {
+    return static_cast<std::size_t>(game);
+}
+inline constexpr std::size_t kGameCount = gameIndex(GameId::Count);
 
 // The four games in the order the tools list them.
 inline constexpr std::array<GameId, kGameCount> kAllGames{GameId::JacksOrBetter, GameId::DeucesWild,

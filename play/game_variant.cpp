@@ -80,7 +80,7 @@ static_assert(
 } // namespace
 
 const GameVariant& variantFor(GameId game) {
-    return kVariants.at(static_cast<std::size_t>(game));
+    return kVariants.at(gameIndex(game));
 }
 
 std::string pictureFileName(GameId game, int code) {

@@ -126,7 +126,7 @@ void StatsWindow::refresh() {
                           .arg(stats_.history().size()));
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {
-        returns[static_cast<std::size_t>(game)] = exactReturn(game);
+        returns[gameIndex(game)] = exactReturn(game);
     }
     showSummaryTable(*summary_, stats_, exactReturn(stats_.visitGame()),
                      expectedReturn(stats_.games(), returns));

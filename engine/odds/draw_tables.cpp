@@ -34,7 +34,7 @@ constexpr std::array<std::uint8_t, 32> kMaskSize = [] {
 // One lazily built table set per game, indexed by GameId.
 StoppableOnce<DrawTables>& lazyFor(GameId game) {
     static std::array<StoppableOnce<DrawTables>, kGameCount> all{};
-    return all[static_cast<std::size_t>(game)];
+    return all[gameIndex(game)];
 }
 
 // Classifies five ascending cards with the game's own analysis: code, plus the bonus bit.

@@ -22,13 +22,13 @@ Cache& cache() {
 std::optional<odds::GameOdds> cachedGameOdds(GameId game) {
     Cache& all = cache();
     const std::lock_guard lock(all.mutex);
-    return all.byGame[static_cast<std::size_t>(game)];
+    return all.byGame[gameIndex(game)];
 }
 
 void storeGameOdds(const odds::GameOdds& result) {
     Cache& all = cache();
     const std::lock_guard lock(all.mutex);
-    all.byGame[static_cast<std::size_t>(result.game)] = result;
+    all.byGame[gameIndex(result.game)] = result;
 }
 
 } // namespace marivale

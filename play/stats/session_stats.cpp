@@ -117,7 +117,7 @@ void SessionStats::dealt(const HandCards& cards, float bet, float /*credits*/) {
     hand.dealt = cards;
     history_.push_back(hand);
     handOpen_ = true;
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         ++tally->hands;
         tally->bet += bet;
     }
@@ -140,7 +140,7 @@ void SessionStats::drawn(const HandCards& cards, std::uint8_t code, std::string_
     hand->finalCards = cards;
     hand->code = code;
     hand->name = std::string(name);
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         ++tally->drawn;
         if (code < tally->codes.size()) {
             ++tally->codes[code];
@@ -153,7 +153,7 @@ void SessionStats::doubleUpOffered() {
     if (HandRecord* hand = openHand()) {
         hand->doubleUp = DoubleUpResult::TookScore;
         ++visit_.doubleUp.offered;
-        ++run_[static_cast<std::size_t>(visitGame_)].doubleUp.offered;
+        ++run_[gameIndex(visitGame_)].doubleUp.offered;
     }
 }
 
@@ -166,7 +166,7 @@ void SessionStats::doubled(int factor) {
     hand->doubleUp = factor > 1    ? DoubleUpResult::Won
                      : factor == 1 ? DoubleUpResult::NoGuess
                                    : DoubleUpResult::Lost;
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         ++tally->doubleUp.played;
         tally->doubleUp.won += factor > 1 ? 1 : 0;
         tally->doubleUp.highestFactor = std::max(tally->doubleUp.highestFactor, factor);
@@ -180,7 +180,7 @@ void SessionStats::bonus(float amount) {
     }
     hand->bonus = amount;
     const double factor = hand->bet > 0.0f ? static_cast<double>(amount) / hand->bet : 0.0;
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         ++tally->bonuses;
         tally->bonusFactors += factor;
     }
@@ -194,7 +194,7 @@ void SessionStats::settled(float paid, float credits) {
     hand->paid = paid;
     hand->finished = true;
     handOpen_ = false;
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->paid += paid;
     }
     credits_.push_back(credits);
@@ -204,7 +204,7 @@ void SessionStats::settled(float paid, float credits) {
 void SessionStats::purchased(float amount, float credits) {
     marks_.push_back(
         {CreditMarkKind::Purchase, static_cast<int>(credits_.size()), amount, credits});
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->purchased += amount;
     }
     changed();
@@ -212,7 +212,7 @@ void SessionStats::purchased(float amount, float credits) {
 
 void SessionStats::cashedOut(float amount) {
     marks_.push_back({CreditMarkKind::CashOut, static_cast<int>(credits_.size()), amount, 0.0f});
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += amount;
     }
     changed();
@@ -221,7 +221,7 @@ void SessionStats::cashedOut(float amount) {
 // Closing the board abandons a hand in play: its bet stays counted, it paid nothing.
 void SessionStats::visitEnded(float cashedOut) {
     handOpen_ = false;
-    for (Tally* tally : {&visit_, &run_[static_cast<std::size_t>(visitGame_)]}) {
+    for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += cashedOut;
     }
     changed();

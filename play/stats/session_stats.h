@@ -125,7 +125,7 @@ public:
     int visits() const { return visits_; }
     GameId visitGame() const { return visitGame_; }
     const Tally& visit() const { return visit_; }
-    const Tally& game(GameId game) const { return run_[static_cast<std::size_t>(game)]; }
+    const Tally& game(GameId game) const { return run_[gameIndex(game)]; }
     const std::array<Tally, kGameCount>& games() const { return run_; }
     Tally run() const;
 

@@ -2,47 +2,32 @@
 
 // Qt
 #include <QApplication>
-#include <QDir>
 #include <QTimer>
 
 // Marivale
-#include "engine/game.h"
-#include "play/game_variant.h"
-#include "tests/support/hand_text.h"
 #include "tests/support/legibility.h"
+#include "tests/support/test_support.h"
 #include "tests/support/text_fit.h"
 #include "ui/design_look.h"
 
 namespace marivale::testing {
 
-Visit::Visit(GameId g, float playUnit) : game(g) {
-    state.PlayUnit = playUnit;
-    state.NetWinLoss = 0.0f;
-    state.DoubleUpEnabled = kTrue;
+MenuStandIn::MenuStandIn() {
     menu.setObjectName(QStringLiteral("frmMain"));
     menu.resize(300, 200);
     menu.show();
-    board = new GameBoard(variantFor(game), state, random, programBoardWindows(), &menu);
-    board->show();
 }
 
-void Visit::click(const QString& name) const {
-    if (auto* button = find<QAbstractButton>(name); button != nullptr && button->isEnabled()) {
-        button->click();
-    }
-    QCoreApplication::processEvents();
-}
+Visit::Visit(GameId g, float playUnit) : BoardFixture(g, 0.0f, playUnit, true, &menu) {}
 
 void Visit::deal(const char* cards) {
-    for (const int code : cardsFromText(cards)) {
-        random.pushIndex(code, deckSize(game));
-    }
+    script(cards);
     click(QStringLiteral("DrawDeal"));
 }
 
 QRect Visit::placeOf(const QString& name) const {
     QWidget* widget = find(name);
-    return QRect(widget->mapTo(board, QPoint(0, 0)), widget->size());
+    return QRect(widget->mapTo(board.get(), QPoint(0, 0)), widget->size());
 }
 
 void whenModal(const QString& name, std::function<void(QWidget&)> action) {
@@ -66,19 +51,6 @@ void whenModal(const QString& name, std::function<void(QWidget&)> action) {
     poll->start();
 }
 
-void clickIn(QWidget& window, const QString& name) {
-    if (auto* button = window.findChild<QAbstractButton*>(name)) {
-        button->click();
-    }
-}
-
-void saveShot(QWidget& window, const QString& name) {
-    const QString dir = qEnvironmentVariable("MARIVALE_SHOTS");
-    if (!dir.isEmpty()) {
-        window.grab().save(QDir(dir).absoluteFilePath(name + QStringLiteral(".png")));
-    }
-}
-
 void Faults::add(const QString& where, const QStringList& found) {
     for (const QString& fault : found) {
         lines_ << where + QStringLiteral(": ") + fault;
@@ -92,6 +64,7 @@ void Faults::expect(const QString& where, bool ok, const QString& what) {
 }
 
 void Faults::whole(const QString& where, QWidget& window) {
+    saveShot(window, where + QStringLiteral(".png"));
     add(where, cutTexts(window));
     add(where, illegibleTexts(window));
     QList<QWidget*> controls = shownControls(window);

@@ -16,6 +16,7 @@
 // Marivale
 #include "tests/program/look_support.h"
 #include "tests/support/legibility.h"
+#include "tests/support/test_support.h"
 #include "tests/support/text_fit.h"
 
 using namespace marivale;
@@ -49,7 +50,6 @@ const BoardLook& lookOf(GameId game) {
 void checkBoard(Visit& v, const QString& where, Faults& faults) {
     const BoardLook& look = lookOf(v.game);
     QWidget& board = *v.board;
-    saveShot(board, where);
     faults.whole(where, board);
     const QColor ground = colourAt(board, QPoint(560, 350));
     faults.expect(where, ground == look.board, QStringLiteral("board is ") + ground.name());
@@ -82,7 +82,6 @@ void checkBoard(Visit& v, const QString& where, Faults& faults) {
 }
 
 void checkHelp(QWidget& help, const QString& where, Faults& faults) {
-    saveShot(help, where);
     faults.whole(where, help);
     const QColor page = colourAt(help, QPoint(2, 2));
     faults.expect(where, page == kWhite, QStringLiteral("page is ") + page.name());
@@ -105,7 +104,6 @@ void checkHelp(QWidget& help, const QString& where, Faults& faults) {
 }
 
 void checkDoubleUp(QWidget& dup, const QString& where, Faults& faults) {
-    saveShot(dup, where);
     faults.whole(where, dup);
     const QColor ground = colourAt(dup, QPoint(4, dup.height() / 2));
     faults.expect(where, ground == QColor(255, 255, 0),
@@ -116,7 +114,6 @@ void checkDoubleUp(QWidget& dup, const QString& where, Faults& faults) {
 }
 
 void checkTreasureHunt(QWidget& hunt, const QString& where, Faults& faults) {
-    saveShot(hunt, where);
     faults.whole(where, hunt);
     const QColor ground = colourAt(hunt, QPoint(4, 4));
     faults.expect(where, ground == QColor(0, 0, 192), QStringLiteral("ground is ") + ground.name());
@@ -128,15 +125,15 @@ void checkTreasureHunt(QWidget& hunt, const QString& where, Faults& faults) {
 // F2 opens the Strategy companion beside the board. It lays itself out for the desktop's font;
 // it has to stay readable on every board.
 void checkStrategy(Visit& v, const QString& name, Faults& faults) {
-    QTest::keyClick(v.board, Qt::Key_F2);
+    QTest::keyClick(v.board.get(), Qt::Key_F2);
     QWidget* strategy = v.find(QStringLiteral("Strategy"));
     if (strategy == nullptr || !strategy->isVisible()) {
         faults.expect(name, false, QStringLiteral("F2 did not open Strategy"));
         return;
     }
-    saveShot(*strategy, name + QStringLiteral(" Strategy"));
+    saveShot(*strategy, name + QStringLiteral(" Strategy.png"));
     faults.add(name + QStringLiteral(" Strategy"), illegibleTexts(*strategy));
-    QTest::keyClick(v.board, Qt::Key_F2);
+    QTest::keyClick(v.board.get(), Qt::Key_F2);
 }
 
 // One visit to the board: its look, help, Strategy when asked, a Treasure Hunt where the board has

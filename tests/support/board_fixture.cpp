@@ -12,11 +12,14 @@
 
 namespace marivale::testing {
 
-BoardFixture::BoardFixture(GameId g, float netWinLoss, float playUnit, bool doubleUp) : game(g) {
+BoardFixture::BoardFixture(GameId g, float netWinLoss, float playUnit, bool doubleUp,
+                           QWidget* parent)
+    : game(g) {
     state.PlayUnit = playUnit;
     state.NetWinLoss = netWinLoss;
     state.DoubleUpEnabled = doubleUp ? kTrue : kFalse;
-    board = std::make_unique<GameBoard>(variantFor(game), state, random, programBoardWindows());
+    board =
+        std::make_unique<GameBoard>(variantFor(game), state, random, programBoardWindows(), parent);
     board->show();
 }
 

@@ -18,8 +18,9 @@
 namespace marivale::testing {
 
 struct BoardFixture {
+    // The board is a top-level window, or a window of the given parent as the main menu opens it.
     explicit BoardFixture(GameId game, float netWinLoss = 0.0f, float playUnit = 0.25f,
-                          bool doubleUp = false);
+                          bool doubleUp = false, QWidget* parent = nullptr);
     ~BoardFixture();
 
     template <typename W = QWidget> W* find(const QString& name) const {

@@ -221,7 +221,7 @@ void PlayController::finishHand() {
     }
     if (state_.HandRank != 0) {
         AnnounceHand();
-        settleHand();
+        settleAndShow();
     }
     endHand();
     clearHolds();
@@ -229,7 +229,7 @@ void PlayController::finishHand() {
 
 void PlayController::takeScore() {
     AnnounceHand();
-    settleHand();
+    settleAndShow();
     endHand();
 }
 
@@ -240,7 +240,7 @@ void PlayController::doubleUp() {
     view_.ShowCardBacks();
     if (state_.DoubleUpFactor > 0) {
         AnnounceHand();
-        settleHand();
+        settleAndShow();
         state_.DoubleUpFactor = 0;
     }
     endHand();
@@ -257,7 +257,7 @@ void PlayController::AnnounceHand() {
     view_.bell(BellCommand::Prev);
 }
 
-void PlayController::settleHand() {
+void PlayController::settleAndShow() {
     const Settlement settlement = SettleHand(state_, variant_.game, view_.treasureHunt());
     if (!settlement.paid) {
         return;

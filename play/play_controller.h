@@ -45,7 +45,8 @@ private:
     // After a draw or a stand: offer Double Up, or pay the hand and end it.
     void finishHand();
     void AnnounceHand();
-    void settleHand();
+    // Settles the hand through SettleHand and shows the credits and the win it leaves.
+    void settleAndShow();
     void clearHolds();
     void endHand();
     void enterDoubleUp();

@@ -48,32 +48,11 @@ private:
     QString programDirectory_{};
 };
 
+using testing::click;
+using testing::once;
+using testing::visibleTopLevel;
+
 namespace {
-
-void click(QWidget& window, const char* name) {
-    auto* button = window.findChild<QAbstractButton*>(name);
-    QVERIFY2(button != nullptr && button->isEnabled(), name);
-    button->click();
-}
-
-QWidget* visibleTopLevel(const QString& name) {
-    for (QWidget* candidate : QApplication::topLevelWidgets()) {
-        if (candidate->objectName() == name && candidate->isVisible()) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
-
-// Runs once the named window is up.
-void once(const QString& name, std::function<void(QWidget&)> then) {
-    QWidget* window = visibleTopLevel(name);
-    if (window == nullptr) {
-        QTimer::singleShot(10, [name, then] { once(name, then); });
-        return;
-    }
-    then(*window);
-}
 
 // The program's wiring: a signal marks the menu's close unattended and starts the sequence.
 struct LogoutWiring {

@@ -1,13 +1,21 @@
 #pragma once
 
-// A data folder of a test's own, holding links to the program's pictures and bell, as the
-// launcher makes one; the test then runs in it.
+// What the whole-program window tests share: a data folder of the test's own, holding links to
+// the program's pictures and bell as the launcher makes one, and finding and clicking the
+// windows the main menu opens.
+
+// Standard library
+#include <functional>
 
 // Qt
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QString>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
 
 namespace marivale::testing {
 
@@ -22,6 +30,33 @@ inline bool enterDataFolder(const QTemporaryDir& folder, const QString& programD
         QFile::link(program.absoluteFilePath(name), QDir(folder.path()).filePath(name));
     }
     return QDir::setCurrent(folder.path());
+}
+
+// The shown top-level window of that name, or null.
+inline QWidget* visibleTopLevel(const QString& name) {
+    for (QWidget* candidate : QApplication::topLevelWidgets()) {
+        if (candidate->objectName() == name && candidate->isVisible()) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+// Runs the action once the named top-level window is up.
+inline void once(const QString& name, std::function<void(QWidget&)> then) {
+    QWidget* window = visibleTopLevel(name);
+    if (window == nullptr) {
+        QTimer::singleShot(10, [name, then] { once(name, then); });
+        return;
+    }
+    then(*window);
+}
+
+// Clicks an enabled button of the window; a button missing or disabled fails the test.
+inline void click(QWidget& window, const QString& name) {
+    auto* button = window.findChild<QAbstractButton*>(name);
+    QVERIFY2(button != nullptr && button->isEnabled(), qPrintable(name + " is not there to click"));
+    button->click();
 }
 
 } // namespace marivale::testing

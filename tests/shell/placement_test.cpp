@@ -28,14 +28,11 @@ private slots:
     void cleanup();
 
     void nothingStoredGivesTheDesignedPlacement();
-    void storedPlacementIsApplied();
     void smallStoredSizeStillShowsTheWholeDesign();
     void closeStoresThePlacementInTwips();
     void unchangedPlacementIsStoredUnchanged();
-    void valueThatIsNotANumberFallsBack_data();
-    void valueThatIsNotANumberFallsBack();
-    void offScreenWindowComesBack_data();
-    void offScreenWindowComesBack();
+    void storedPlacement_data();
+    void storedPlacement();
     void minimisedCloseKeepsTheEarlierPlacement();
     void maximisedCloseStoresTheMaximisedPlacement();
 
@@ -109,12 +106,6 @@ void PlacementTest::nothingStoredGivesTheDesignedPlacement() {
     QCOMPARE(menu->frameGeometry(), QRect(67, 67, 310, 257));
 }
 
-void PlacementTest::storedPlacementIsApplied() {
-    store({"1500", "1800", "6000", "4500"});
-    auto menu = openMenu();
-    QCOMPARE(menu->frameGeometry(), QRect(100, 120, 400, 300));
-}
-
 // However small the stored size, the menu keeps room for every control above its status bar.
 void PlacementTest::smallStoredSizeStillShowsTheWholeDesign() {
     store({"1500", "1800", "600", "450"});
@@ -153,9 +144,13 @@ void PlacementTest::unchangedPlacementIsStoredUnchanged() {
     }
 }
 
-void PlacementTest::valueThatIsNotANumberFallsBack_data() {
+// Each stored value that is not a number falls back to its designed one; a window that would be
+// lost off the screen comes back to the designed place.
+void PlacementTest::storedPlacement_data() {
     QTest::addColumn<QStringList>("values");
     QTest::addColumn<QRect>("expected");
+    QTest::newRow("applied") << QStringList{"1500", "1800", "6000", "4500"}
+                             << QRect(100, 120, 400, 300);
     QTest::newRow("left is text") << QStringList{"abc", "1800", "6000", "4500"}
                                   << QRect(67, 120, 400, 300);
     QTest::newRow("top is empty") << QStringList{"1500", "", "6000", "4500"}
@@ -168,25 +163,13 @@ void PlacementTest::valueThatIsNotANumberFallsBack_data() {
                                  << QRect(100, 120, 310, 300);
     QTest::newRow("decimals are rounded")
         << QStringList{"1500.4", " 1800 ", "6000", "4500"} << QRect(100, 120, 400, 300);
-}
 
-void PlacementTest::valueThatIsNotANumberFallsBack() {
-    QFETCH(QStringList, values);
-    QFETCH(QRect, expected);
-    store({values[0], values[1], values[2], values[3]});
-    auto menu = openMenu();
-    QCOMPARE(menu->frameGeometry(), expected);
-}
-
-void PlacementTest::offScreenWindowComesBack_data() {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     const QRect home(area.topLeft() + QPoint(67, 67), QSize(310, 257));
     const auto twips = [](int pixels) {
         return QString::number(pixels * 15);
     };
-    QTest::addColumn<QStringList>("values");
-    QTest::addColumn<QRect>("expected");
     QTest::newRow("far left and up") << QStringList{"-150000", "-150000", "4650", "3850"} << home;
     QTest::newRow("beyond the right edge")
         << QStringList{twips(screen.right() + 50), "1500", "4650", "3850"} << home;
@@ -204,7 +187,7 @@ void PlacementTest::offScreenWindowComesBack_data() {
         << QRect(area.left(), area.top() + 67, area.width() + 200, 257);
 }
 
-void PlacementTest::offScreenWindowComesBack() {
+void PlacementTest::storedPlacement() {
     QFETCH(QStringList, values);
     QFETCH(QRect, expected);
     store({values[0], values[1], values[2], values[3]});

@@ -54,9 +54,10 @@ struct KeeperCase {
     const char* name;
     std::function<void(const fs::path&)> prepare;
     float total;
-    const char* warning; // a part of the one message, or "" for none
-    const char* after;   // the file's content after the close
-    mode_t modeAfter;    // 0: not checked
+    const char* warning;          // a part of the one message, or "" for none
+    const char* after;            // the file's content after the close
+    mode_t modeAfter;             // 0: not checked
+    const char* atLoad = nullptr; // the file's content just after the load, when checked
 };
 
 void writeData(const fs::path& folder, const char* text, mode_t mode) {
@@ -67,10 +68,11 @@ void writeData(const fs::path& folder, const char* text, mode_t mode) {
 // Runs each case as an ordinary user: load, close, and whether anyone was told a second time.
 TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
     const KeeperCase cases[] = {
-        {"missing file", [](const fs::path&) {}, 0.0f, "", "42\r\n", 0644},
+        {"missing file", [](const fs::path&) {}, 0.0f, "", "42\r\n", 0644, "0\r\n"},
         {"a total", [](const fs::path& f) { writeData(f, "-12.5\r\n", 0644); }, -12.5f, "",
          "42\r\n", 0644},
-        {"text", [](const fs::path& f) { writeData(f, "abc", 0600); }, 0.0f, "", "42\r\n", 0600},
+        {"text", [](const fs::path& f) { writeData(f, "abc", 0600); }, 0.0f, "", "42\r\n", 0600,
+         "0\r\n"},
         {"unreadable", [](const fs::path& f) { writeData(f, "250\r\n", 0); }, 0.0f,
          "cannot be read or written (Permission denied), so it is left as it is", nullptr, 0},
         {"write-only", [](const fs::path& f) { writeData(f, "250\r\n", 0200); }, 0.0f,
@@ -105,6 +107,10 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
                 EXPECT_EQ(loaded.warning, "");
             } else {
                 EXPECT_NE(loaded.warning.find(c.warning), std::string::npos) << loaded.warning;
+            }
+            if (c.atLoad != nullptr) {
+                std::ifstream in("mpdata.dat", std::ios::binary);
+                EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), c.atLoad);
             }
             EXPECT_EQ(keeper.save(42.0f), "") << "told twice";
             struct stat after {};

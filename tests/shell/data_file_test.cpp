@@ -235,37 +235,6 @@ TEST_F(DataFileFolder, InterruptedSaveLeavesThePreviousFile) {
     EXPECT_TRUE(strayEntries().empty());
 }
 
-// What the reader makes of each thing it may find under the data file's name.
-TEST_F(DataFileFolder, ReadTellsMissingFromEmptyFromUnreadable) {
-    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::Missing);
-    writeFile("");
-    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::NotANumber);
-    writeFile("total: 5\r\n");
-    EXPECT_EQ(readDataFile(folder_).status, ReadStatus::NotANumber);
-    writeFile("-12.5\r\n");
-    const ReadOutcome read = readDataFile(folder_);
-    EXPECT_EQ(read.status, ReadStatus::Read);
-    EXPECT_EQ(read.total, -12.5f);
-    EXPECT_TRUE(read.writable);
-    fs::remove(folder_ / "mpdata.dat");
-    fs::create_directory(folder_ / "mpdata.dat");
-    const ReadOutcome folder = readDataFile(folder_);
-    EXPECT_EQ(folder.status, ReadStatus::Unreadable);
-    EXPECT_EQ(folder.reason, "it is a folder");
-}
-
-TEST_F(DataFileFolder, AFolderInThePlaceOfTheFileIsLeftAlone) {
-    // Neither reading nor replacing works here, even for root.
-    fs::create_directory(folder_ / "mpdata.dat");
-    EXPECT_FALSE(loadTotal(folder_).has_value());
-    const SaveOutcome outcome = saveTotal(folder_, 5.0f);
-    EXPECT_FALSE(outcome.saved);
-    EXPECT_EQ(outcome.file, folder_ / "mpdata.dat");
-    EXPECT_FALSE(outcome.reason.empty());
-    EXPECT_TRUE(fs::is_directory(folder_ / "mpdata.dat"));
-    EXPECT_TRUE(strayEntries().empty());
-}
-
 // A link stays a link and the file it points to, in another folder, receives the total; a link
 // to nothing gets its file made. Links through links are followed to the end.
 TEST_F(DataFileFolder, ALinkStaysALinkAndItsTargetReceivesTheTotal) {
@@ -288,13 +257,6 @@ TEST_F(DataFileFolder, ALinkStaysALinkAndItsTargetReceivesTheTotal) {
     EXPECT_TRUE(fs::is_symlink(folder_ / "mpdata.dat"));
     EXPECT_EQ(fileContent(), "0\r\n");
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(elsewhere / "real.dat")));
-}
-
-TEST_F(DataFileFolder, MissingFolderIsReported) {
-    const SaveOutcome outcome = saveTotal(folder_ / "gone", 5.0f);
-    EXPECT_FALSE(outcome.saved);
-    EXPECT_EQ(outcome.file, folder_ / "gone" / "mpdata.dat");
-    EXPECT_FALSE(outcome.reason.empty());
 }
 
 TEST_F(DataFileFolder, AnEmptyFolderNameMeansTheCurrentFolder) {

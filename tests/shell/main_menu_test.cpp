@@ -109,7 +109,7 @@ std::unique_ptr<MainMenu> MainMenuTest::openMenu() {
     auto menu = std::make_unique<MainMenu>(state_, hooks);
     menu->show();
     if (!QTest::qWaitForWindowExposed(menu.get())) {
-        qWarning("the menu was not exposed");
+        QTest::qFail("the menu was not exposed", __FILE__, __LINE__);
     }
     return menu;
 }

@@ -6,7 +6,6 @@
 #include <utility>
 
 // Qt
-#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,10 +15,9 @@
 #include <QTimer>
 
 // Marivale
-#include "board/advisor/strategy_window.h"
+#include "board/board_companions.h"
 #include "board/board_design.h"
 #include "board/board_keys.h"
-#include "board/stats/stats_window.h"
 #include "play/play_controller.h"
 #include "play/stats/session_stats.h"
 #include "ui/bell.h"
@@ -38,7 +36,8 @@ public:
           bell_(new Bell(&window)),
           ownStats_(stats == nullptr ? std::make_unique<SessionStats>() : nullptr),
           stats_(stats == nullptr ? *ownStats_ : *stats),
-          controller_(variant, state, random, *this) {
+          controller_(variant, state, random, *this),
+          companions_(window, variant.game, state, stats_) {
         mapControls();
         connectClicks();
         prepareBoardKeys(window_, widgets_);
@@ -57,14 +56,14 @@ public:
     void runDoubleUp() override;
     BonusGame& treasureHunt() override { return *this; }
     void play(GameState& state) override;
-    void handDealt() override;
-    void handPlayed(const std::array<bool, 5>& held) override;
-    void betChanged() override;
+    void handDealt() override { companions_.handDealt(); }
+    void handPlayed(const std::array<bool, 5>& held) override { companions_.handPlayed(held); }
+    void betChanged() override { companions_.betChanged(); }
 
     // Runs the board's unload once, however the window goes away.
     void unloadOnce();
-    void toggleStrategy();
-    void toggleStatistics();
+    void toggleStrategy() { companions_.toggleStrategy(); }
+    void toggleStatistics() { companions_.toggleStatistics(); }
     // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
     bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event); }
 
@@ -84,10 +83,9 @@ private:
     std::unique_ptr<SessionStats> ownStats_;
     SessionStats& stats_;
     PlayController controller_;
+    BoardCompanions companions_;
     std::map<Control, QWidget*> controls_{};
     std::map<Control, std::string> texts_{};
-    StrategyWindow* strategy_{nullptr};
-    StatsWindow* statsWindow_{nullptr};
     bool unloaded_{false};
     bool toldMissing_{false};
 };
@@ -237,70 +235,12 @@ void GameBoard::Impl::play(GameState& state) {
     }
 }
 
-void GameBoard::Impl::handDealt() {
-    if (strategy_ != nullptr) {
-        strategy_->handDealt();
-    }
-}
-
-void GameBoard::Impl::handPlayed(const std::array<bool, 5>& held) {
-    if (strategy_ != nullptr) {
-        strategy_->handPlayed(held);
-    }
-}
-
-void GameBoard::Impl::betChanged() {
-    if (strategy_ != nullptr) {
-        strategy_->betChanged();
-    }
-}
-
-// F2 opens the Strategy companion beside the board, or closes it.
-void GameBoard::Impl::toggleStrategy() {
-    if (strategy_ == nullptr) {
-        strategy_ = new StrategyWindow(variant_.game, state_, &window_);
-        if (state_.DrawPhase == 1) {
-            strategy_->handDealt();
-        }
-        if (auto* trainer = strategy_->findChild<QCheckBox*>(QStringLiteral("Trainer"))) {
-            QObject::connect(trainer, &QCheckBox::toggled, &window_,
-                             [this](bool on) { stats_.setTrainerMode(on); });
-        }
-    }
-    if (strategy_->isVisible()) {
-        strategy_->hide();
-        return;
-    }
-    placeBeside(*strategy_, window_, Side::Right);
-    strategy_->show();
-    strategy_->raise();
-}
-
-// F3 opens the statistics beside the board, or closes them.
-void GameBoard::Impl::toggleStatistics() {
-    if (statsWindow_ == nullptr) {
-        statsWindow_ = new StatsWindow(stats_, &window_);
-    }
-    if (statsWindow_->isVisible()) {
-        statsWindow_->hide();
-        return;
-    }
-    placeBeside(*statsWindow_, window_, Side::Left);
-    statsWindow_->show();
-    statsWindow_->raise();
-}
-
 void GameBoard::Impl::unloadOnce() {
     if (unloaded_) {
         return;
     }
     unloaded_ = true;
-    // The statistics window goes first: it draws the model the unload reports to.
-    delete statsWindow_;
-    statsWindow_ = nullptr;
-    if (strategy_ != nullptr) {
-        strategy_->close();
-    }
+    companions_.closeAll();
     controller_.unload();
 }
 

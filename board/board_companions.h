@@ -1,0 +1,49 @@
+#pragma once
+
+// The board's two companion windows, Strategy (F2) and the statistics (F3): each is built the
+// first time it is asked for, stands beside the board, and follows the board's hands.
+
+// Standard library
+#include <array>
+
+// Marivale
+#include "engine/game.h"
+#include "state/game_state.h"
+
+class QWidget;
+
+namespace marivale {
+
+class SessionStats;
+class StatsWindow;
+class StrategyWindow;
+
+class BoardCompanions {
+public:
+    BoardCompanions(QWidget& board, GameId game, GameState& state, SessionStats& stats);
+    BoardCompanions(const BoardCompanions&) = delete;
+    BoardCompanions& operator=(const BoardCompanions&) = delete;
+
+    // F2: opens the Strategy window beside the board, or hides it.
+    void toggleStrategy();
+    // F3: opens the statistics beside the board, or hides them.
+    void toggleStatistics();
+
+    void handDealt();
+    void handPlayed(const std::array<bool, 5>& held);
+    void betChanged();
+
+    // Closes both before the board unloads; the statistics go first, as they draw the model
+    // the unload reports to.
+    void closeAll();
+
+private:
+    QWidget& board_;
+    GameId game_{GameId::JacksOrBetter};
+    GameState& state_;
+    SessionStats& stats_;
+    StrategyWindow* strategy_{nullptr};
+    StatsWindow* statsWindow_{nullptr};
+};
+
+} // namespace marivale

@@ -34,7 +34,6 @@ private slots:
     void init();
     void cleanup();
 
-    void firstStartShowsNothingWon_data();
     void firstStartShowsNothingWon();
     void controlsCarryTheirCaptions();
     void clicksReachTheMenusRules();
@@ -125,20 +124,9 @@ QByteArray MainMenuTest::dataFile() const {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
-void MainMenuTest::firstStartShowsNothingWon_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("no data file") << QByteArray("<missing>");
-    QTest::newRow("empty file") << QByteArray();
-    QTest::newRow("not a number") << QByteArray("abc\r\n");
-}
-
-// No readable total: the file is written holding 0 at once, and the menu opens at its design
-// placement with nothing won.
+// No data file: it is written holding 0 at once, and the menu opens with nothing won (each
+// kind of unreadable file is the total keeper's part).
 void MainMenuTest::firstStartShowsNothingWon() {
-    QFETCH(QByteArray, content);
-    if (content != "<missing>") {
-        writeDataFile(content);
-    }
     auto menu = openMenu();
     QCOMPARE(dataFile(), QByteArray("0\r\n"));
     QCOMPARE(control<QLineEdit>(*menu, "WinLoss")->text(), QString("$0.00"));
@@ -148,8 +136,6 @@ void MainMenuTest::firstStartShowsNothingWon() {
              QLocale().toString(QDate::currentDate(), MenuStatusBar::dateFormat(QLocale())));
     QVERIFY(!control<QLabel>(*menu, "sbPanel3")->text().isEmpty());
     QVERIFY(control<QRadioButton>(*menu, "PSettings1")->isChecked());
-    // 1000, 1000, 4650 and 3850 twips at 15 twips to the pixel.
-    QCOMPARE(menu->frameGeometry(), QRect(67, 67, 310, 257));
     QVERIFY(warnings_.isEmpty());
 }
 

@@ -72,26 +72,14 @@ constexpr std::array<double, 9> kNineSix{800, 50, 25, 9, 6, 4, 3, 2, 1};
 class StrategyWindowTest : public QObject {
     Q_OBJECT
 private slots:
-    void isAToolWindowCalledStrategy();
     void bestHoldFirstWithItsExactReturn_data();
     void bestHoldFirstWithItsExactReturn();
-    void betChangedUpdatesTheDollars();
     void trainerCountsWeakerHoldsAndTheirCost();
-    void handThatIsNoDealShowsNoHolds();
+    void toolWindowShowsNoHoldsForAHandThatIsNoDeal();
     void gameFiguresShowTheReturnOnceWorkedOut();
     void editedPayTableShowsItsFiguresUntilTheBoardTableComesBack();
     void riskOfRuinFollowsTheBankrollHandsAndBet();
 };
-
-void StrategyWindowTest::isAToolWindowCalledStrategy() {
-    Advisor advisor(GameId::JacksOrBetter);
-    QCOMPARE(advisor.window.objectName(), QStringLiteral("Strategy"));
-    QCOMPARE(advisor.window.windowTitle(), QStringLiteral("Strategy"));
-    QVERIFY(advisor.window.windowFlags().testFlag(Qt::Tool));
-    QCOMPARE(advisor.window.findChild<QCheckBox*>("Trainer")->text(),
-             QStringLiteral("Trainer mode"));
-    QVERIFY(!advisor.window.findChild<QCheckBox*>("Trainer")->isChecked());
-}
 
 void StrategyWindowTest::bestHoldFirstWithItsExactReturn_data() {
     QTest::addColumn<int>("game");
@@ -140,23 +128,16 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
     QCOMPARE(advisor.cell(1, HoldTable::kRankColumn), QStringLiteral("2"));
 }
 
-void StrategyWindowTest::betChangedUpdatesTheDollars() {
+void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
     Advisor advisor(GameId::JacksOrBetter);
+    // A new bet changes the dollars, not the bets; with the trainer off a weak hold is not judged.
     advisor.deal("2c As Ks Qs Js", 1.0f);
     QVERIFY(advisor.waitForHolds());
-    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$6.68"));
     advisor.state.BetAmount = 5.0f;
     advisor.window.betChanged();
     QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$33.40"));
     QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
     QVERIFY(advisor.label("Dealt").contains("$5.00"));
-}
-
-void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
-    Advisor advisor(GameId::JacksOrBetter);
-    // With the trainer off a weak hold is not judged.
-    advisor.deal("2c As Ks Qs Js", 1.0f);
-    QVERIFY(advisor.waitForHolds());
     advisor.window.handPlayed({true, true, true, true, true});
     QVERIFY(advisor.label("TrainerVerdict").isEmpty());
     advisor.trainer(true);
@@ -187,8 +168,14 @@ void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
              QStringLiteral("Mistakes: 2   Cost: $%1").arg(QString::number(total, 'f', 2)));
 }
 
-void StrategyWindowTest::handThatIsNoDealShowsNoHolds() {
+void StrategyWindowTest::toolWindowShowsNoHoldsForAHandThatIsNoDeal() {
     Advisor advisor(GameId::JacksOrBetter);
+    QCOMPARE(advisor.window.objectName(), QStringLiteral("Strategy"));
+    QCOMPARE(advisor.window.windowTitle(), QStringLiteral("Strategy"));
+    QVERIFY(advisor.window.windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(advisor.window.findChild<QCheckBox*>("Trainer")->text(),
+             QStringLiteral("Trainer mode"));
+    QVERIFY(!advisor.window.findChild<QCheckBox*>("Trainer")->isChecked());
     advisor.trainer(true);
     advisor.state.BetAmount = 1.0f;
     advisor.state.Hand = {}; // five Aces of clubs: not a deal

@@ -100,7 +100,8 @@ void BoardPlayTest::designOf(GameId game, const QString& name, const QString& ca
         QCOMPARE(t.text(QString::fromLatin1(boxes[row])),
                  QString::fromStdString(FormatMoney(t.state.*pay.field, pay.pattern)));
     }
-    // The play's opening texts reach the board's boxes.
+    // The opening captions and boxes.
+    QCOMPARE(t.text("DrawDeal"), QStringLiteral("&Deal"));
     QCOMPARE(t.text("Stand"), QStringLiteral("&Cash Out"));
     QCOMPARE(t.text("Last"), QStringLiteral("$0.00"));
     QCOMPARE(t.text("PLTitle"), QStringLiteral("Net Winnings"));

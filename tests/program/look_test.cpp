@@ -95,9 +95,6 @@ void checkHelp(QWidget& help, const QString& where, Faults& faults) {
         const QRect place(label->mapTo(&help, QPoint(0, 0)), label->size());
         faults.expect(where, showsColour(help, place, kBlack, 40),
                       label->objectName() + QStringLiteral(" is not black"));
-        const bool heading = n == 1 || n == 6 || n == 17 || n == 19;
-        faults.expect(where, label->font().bold() == heading && label->font().pixelSize() == 11,
-                      label->objectName() + QStringLiteral(" is not in 8.25 pt"));
     }
     auto* ok = help.findChild<QWidget*>(QStringLiteral("Command1"));
     faults.expect(where, ok != nullptr && ok->isVisible(), QStringLiteral("no OK button"));

@@ -168,15 +168,6 @@ TEST(DataFileNotation, QuarterDollarsRoundTripExactly) {
     }
 }
 
-TEST_F(DataFileFolder, EmptyFileHasNoTotalAndRecoveryWritesZero) {
-    writeFile("");
-    EXPECT_FALSE(loadTotal(folder_).has_value());
-    const SaveOutcome outcome = writeRecoveryRecord(folder_);
-    EXPECT_TRUE(outcome.saved) << outcome.reason;
-    EXPECT_EQ(fileContent(), "0\r\n");
-    EXPECT_EQ(loadTotal(folder_), 0.0f);
-}
-
 TEST_F(DataFileFolder, SaveWritesTheRecordAndLeavesNothingElse) {
     writeFile("250,junk");
     EXPECT_EQ(loadTotal(folder_), 250.0f);

@@ -1,7 +1,8 @@
 // The statistics window on real boards: F3 opens it beside the board and it changes nothing,
 // its figures follow the hands, the chart has a point per hand with the purchases and cash-outs
 // marked, the history shows the newest hand first with the cost of its hold, the export reads
-// back with "." decimals under a comma locale, and the run's figures outlive a board.
+// back with "." decimals under a comma locale (its columns are the history file's own tests'
+// part), and the run's figures outlive a board.
 
 #include <QtTest>
 
@@ -174,8 +175,6 @@ void StatsWindowTest::historyNewestFirstAndExportReadsBack() {
     QVERIFY(rows[0].startsWith(QStringLiteral("Hand,Visit,Game,Bet,Dealt,Held,Final,")));
     QCOMPARE(rows[1], QStringLiteral("1,1,Jacks or Better,0.25,As Ks Qs Js 2c,As Ks Qs Js 2c,"
                                      "As Ks Qs Js 2c,,0.00,,0.00,As Ks Qs Js,1.6702"));
-    QVERIFY(rows[2].startsWith(QStringLiteral("2,1,Jacks or Better,0.25,Ac Ad Ah As 7c,")));
-    QVERIFY(rows[2].endsWith(QStringLiteral(",6.25,,0.00,Ac Ad Ah As,0.0000")));
     QVERIFY(!window->exportTo(dir.filePath(QStringLiteral("missing/history.csv"))));
     QLocale::setDefault(QLocale::c());
 }

@@ -157,8 +157,8 @@ void GameBoard::Impl::setEnabled(Control control, bool enabled) {
 }
 
 void GameBoard::Impl::setPayText(int row, std::string_view text) {
-    widgets_.payBoxes.at(static_cast<std::size_t>(row))
-        ->setText(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+    widgets_.payBoxes.at(row)->setText(
+        QString::fromUtf8(text.data(), static_cast<int>(text.size())));
 }
 
 int GameBoard::Impl::selectedPurchase() const {

@@ -65,7 +65,7 @@ std::string FormatMoney(float value, std::string_view pattern) {
     }
     if (grouping) {
         for (auto at = static_cast<std::ptrdiff_t>(whole.size()) - 3; at > 0; at -= 3) {
-            whole.insert(static_cast<std::size_t>(at), 1, ',');
+            whole.insert(at, 1, ',');
         }
     }
     std::string text;

@@ -108,7 +108,7 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
     const std::array<std::optional<double>, 2> exact{visitExact, runExact};
     const std::array<TrainerSummary, 2> trainer{stats.trainer(true), stats.trainer(false)};
     for (int column = 0; column < 2; ++column) {
-        const auto c = static_cast<std::size_t>(column);
+        const std::size_t c = column;
         const Tally& t = *tallies[c];
         const auto factor = t.averageBonusFactor();
         const auto row = [&](SummaryRow r, const QString& text) {
@@ -163,7 +163,7 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
     };
     int row = 0;
     for (int code = topCode(game); code >= 1; --code, ++row) {
-        const auto slot = static_cast<std::size_t>(code);
+        const std::size_t slot = code;
         const std::string_view name = CodeName(game, static_cast<std::uint8_t>(code));
         fill(row, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
              {tallies[0]->codes[slot], tallies[1]->codes[slot]},

@@ -175,7 +175,7 @@ void DrawTables::classifyDeals(int threads, std::stop_token stop) {
     }
     const std::vector<DealClass>& deals = *all;
     dealOutcomes_.assign(deals.size(), 0);
-    std::vector<std::array<bool, kRawValues>> seen(static_cast<std::size_t>(std::max(threads, 1)));
+    std::vector<std::array<bool, kRawValues>> seen(std::max(threads, 1));
     const int chunks = static_cast<int>((deals.size() + kClassifyChunk - 1) / kClassifyChunk);
     parallelFor(chunks, threads, [&](int worker, int chunk) {
         if (stop.stop_requested()) {
@@ -262,7 +262,7 @@ void DrawTables::addClassCounts(int size, int id, int sign, OutcomeCounts& into)
             into[slot] += sign * static_cast<std::int32_t>(counts[slot]);
         }
     };
-    const auto at = static_cast<std::size_t>(id);
+    const std::size_t at = id;
     switch (size) {
     case 0:
         add(all_);

@@ -45,7 +45,7 @@ Pays paysFor(const DrawTables& tables, const PayScale& scale) {
     pays.values = outcomeValues(tables, scale);
     for (int size = 0; size < kHandSize; ++size) {
         auto& ofClass = pays.ofClass[size];
-        ofClass.resize(static_cast<std::size_t>(tables.classCount(size)));
+        ofClass.resize(tables.classCount(size));
         for (std::size_t id = 0; id < ofClass.size(); ++id) {
             OutcomeCounts counts{};
             tables.addClassCounts(size, static_cast<int>(id), 1, counts);
@@ -170,7 +170,7 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
     const Pays pays = paysFor(tables, scale);
 
     threads = std::max(threads, 1);
-    std::vector<Totals> totals(static_cast<std::size_t>(threads));
+    std::vector<Totals> totals(threads);
     const int chunks = static_cast<int>((classes.size() + kChunk - 1) / kChunk);
     parallelFor(chunks, threads, [&](int worker, int chunk) {
         if (stop.stop_requested()) {
@@ -207,7 +207,7 @@ std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& sc
     long double expected = 0.0L;
     long double expectedSquare = 0.0L;
     for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
-        const auto at = static_cast<std::size_t>(slot);
+        const std::size_t at = slot;
         const Outcome outcome = tables.outcome(slot);
         const auto p = static_cast<double>(probability[at]);
         expected += probability[at] * pays.values[at];

@@ -26,7 +26,7 @@ template <typename Body> void parallelFor(int count, int threads, Body&& body) {
         }
     };
     std::vector<std::thread> pool;
-    pool.reserve(static_cast<std::size_t>(threads - 1));
+    pool.reserve(threads - 1);
     for (int worker = 1; worker < threads; ++worker) {
         pool.emplace_back(work, worker);
     }

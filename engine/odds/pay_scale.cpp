@@ -65,7 +65,7 @@ OutcomeValues outcomeSquares(const DrawTables& tables, const PayScale& scale) {
     const double spread = bonusVariance(scale);
     OutcomeValues squares{};
     for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
-        const auto at = static_cast<std::size_t>(slot);
+        const std::size_t at = slot;
         squares[at] = values[at] * values[at] + (tables.outcome(slot).bonus ? spread : 0.0);
     }
     return squares;

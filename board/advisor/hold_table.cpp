@@ -1,6 +1,10 @@
 #include "board/advisor/hold_table.h"
 
+// Standard library
+#include <algorithm>
+
 // Qt
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QStyle>
 
@@ -28,6 +32,24 @@ QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
     return item;
 }
 
+// The design's widths, each widened to the widest text its column can show in bold in the
+// table's font, so that a large desktop font never cuts off "Best" or a top-bet amount.
+std::array<int, kColumns> fittedWidths(QFont font) {
+    font.setBold(true);
+    const QFontMetrics metrics(font);
+    const std::array<QString, kColumns> widest{
+        HoldTable::tr("Best"),      QStringLiteral("10\u2660"),   QStringLiteral("10\u2660"),
+        QStringLiteral("10\u2660"), QStringLiteral("10\u2660"),   QStringLiteral("10\u2660"),
+        QStringLiteral("800.0000"), QStringLiteral("$160,000.00")};
+    constexpr int kCellPadding = 12;
+    std::array<int, kColumns> widths = kColumnWidth;
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        widths[column] =
+            std::max(widths[column], metrics.horizontalAdvance(widest[column]) + kCellPadding);
+    }
+    return widths;
+}
+
 QString dollars(double bets, float bet) {
     return QString::fromStdString(FormatMoney(static_cast<float>(bets) * bet, kDollarPattern));
 }
@@ -41,8 +63,9 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
     verticalHeader()->setDefaultSectionSize(kRowHeight);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setHighlightSections(false);
+    const std::array<int, kColumns> widths = fittedWidths(font());
     for (int column = 0; column < kColumns; ++column) {
-        setColumnWidth(column, kColumnWidth[column]);
+        setColumnWidth(column, widths[column]);
     }
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -51,7 +74,7 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setWordWrap(false);
     int width = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
-    for (const int column : kColumnWidth) {
+    for (const int column : widths) {
         width += column;
     }
     setFixedWidth(width);

@@ -12,8 +12,6 @@ namespace marivale {
 namespace {
 
 constexpr std::string_view kTotalPattern = "$#,###,##0.00";
-constexpr std::string_view kDoubleUpOff = "Status: DoubleUp Not Enabled";
-constexpr std::string_view kDoubleUpOn = "Status: DoubleUp Enabled";
 constexpr std::string_view kCaptionAfterClear = "Stats";
 
 } // namespace

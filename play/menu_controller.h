@@ -24,6 +24,10 @@ struct PlayOption {
     float unit{0.0f};
 };
 
+// The status bar's first panel with Double Up off and on.
+inline constexpr std::string_view kDoubleUpOff = "Status: DoubleUp Not Enabled";
+inline constexpr std::string_view kDoubleUpOn = "Status: DoubleUp Enabled";
+
 inline constexpr std::array<PlayOption, 4> kPlayOptions{{
     {1, "$0.25 Game", 0.25f},
     {2, "$1.00 Game", 1.00f},

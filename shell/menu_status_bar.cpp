@@ -13,6 +13,7 @@
 #include <QTimer>
 
 // Marivale
+#include "play/menu_controller.h"
 #include "ui/design_look.h"
 
 namespace marivale {
@@ -20,8 +21,6 @@ namespace marivale {
 namespace {
 
 constexpr qreal kPanelPoints = 8.25;
-// The widest status text panel 1 ever shows.
-const QString kLongestStatus = QStringLiteral("Status: DoubleUp Not Enabled");
 
 // Dates and times whose texts are the widest of their form: two-digit days, months and hours,
 // before and after noon.
@@ -90,7 +89,10 @@ void MenuStatusBar::fitPanels() {
         return metrics.horizontalAdvance(text) + margins.left() + margins.right() +
                2 * panel.frameWidth() + 2;
     };
-    status_->setMinimumWidth(room(*status_, kLongestStatus));
+    // Room for the wider of the two texts panel 1 ever shows.
+    status_->setMinimumWidth(
+        std::max(room(*status_, QString::fromUtf8(kDoubleUpOff.data(), kDoubleUpOff.size())),
+                 room(*status_, QString::fromUtf8(kDoubleUpOn.data(), kDoubleUpOn.size()))));
     const QString dateForm = dateFormat(locale);
     date_->setMinimumWidth(room(*date_, locale.toString(QDate(2026, 12, 28), dateForm)));
     const QString timeForm = timeFormat(locale);

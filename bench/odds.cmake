@@ -9,7 +9,7 @@ if(TARGET marivale-odds)
 endif()
 
 # How long closing a board takes while its Strategy window is still working.
-if(MARIVALE_HAVE_QT AND TARGET marivale_advisor)
-    add_executable(marivale-advisor-bench advisor_benchmark.cpp)
-    target_link_libraries(marivale-advisor-bench PRIVATE marivale_advisor benchmark::benchmark)
+if(MARIVALE_HAVE_QT AND TARGET marivale_strategy)
+    add_executable(marivale-strategy-bench strategy_benchmark.cpp)
+    target_link_libraries(marivale-strategy-bench PRIVATE marivale_strategy benchmark::benchmark)
 endif()

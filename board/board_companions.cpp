@@ -1,15 +1,38 @@
 #include "board/board_companions.h"
 
+// Standard library
+#include <algorithm>
+
 // Qt
 #include <QCheckBox>
+#include <QScreen>
 
 // Marivale
-#include "board/advisor/strategy_window.h"
-#include "board/board_keys.h"
 #include "board/stats/stats_window.h"
+#include "board/strategy/strategy_window.h"
 #include "play/stats/session_stats.h"
 
 namespace marivale {
+namespace {
+
+constexpr int kGap = 8;
+
+} // namespace
+
+void placeBeside(QWidget& companion, const QWidget& board, Side preferred) {
+    const QRect outer = board.frameGeometry();
+    const QRect screen = board.screen()->availableGeometry();
+    const QSize size = companion.frameGeometry().size();
+    const int left = outer.left() - size.width() - kGap;
+    const int right = outer.right() + kGap;
+    const bool leftFits = left >= screen.left();
+    const bool rightFits = right + size.width() <= screen.right();
+    int x = preferred == Side::Left ? (leftFits || !rightFits ? left : right)
+                                    : (rightFits || !leftFits ? right : left);
+    x = std::min(x, screen.right() - size.width());
+    const int y = std::min(outer.top(), screen.bottom() - size.height());
+    companion.move(std::max(x, screen.left()), std::max(y, screen.top()));
+}
 
 BoardCompanions::BoardCompanions(QWidget& board, GameId game, GameState& state, SessionStats& stats)
     : board_(board), game_(game), state_(state), stats_(stats) {}

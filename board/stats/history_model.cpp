@@ -7,7 +7,7 @@
 #include <QColor>
 
 // Marivale
-#include "board/advisor/card_text.h"
+#include "board/strategy/card_text.h"
 #include "engine/money_format.h"
 #include "play/game_variant.h"
 #include "play/stats/history_csv.h"

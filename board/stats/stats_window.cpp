@@ -25,9 +25,9 @@
 #include "board/stats/stats_tables.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
-#include "play/advisor/game_odds_cache.h"
 #include "play/stats/history_csv.h"
 #include "play/stats/hold_judge.h"
+#include "play/strategy/game_odds_cache.h"
 
 namespace marivale {
 

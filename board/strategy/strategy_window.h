@@ -17,13 +17,13 @@
 #include <QWidget>
 
 // Marivale
-#include "board/advisor/hold_table.h"
+#include "board/strategy/hold_table.h"
 #include "engine/game.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
-#include "play/advisor/background_job.h"
+#include "play/strategy/background_job.h"
 #include "state/game_state.h"
 
 class QLabel;

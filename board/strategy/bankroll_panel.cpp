@@ -1,4 +1,4 @@
-#include "board/advisor/bankroll_panel.h"
+#include "board/strategy/bankroll_panel.h"
 
 // Standard library
 #include <algorithm>

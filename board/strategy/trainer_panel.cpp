@@ -1,4 +1,4 @@
-#include "board/advisor/trainer_panel.h"
+#include "board/strategy/trainer_panel.h"
 
 // Qt
 #include <QCheckBox>
@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 // Marivale
-#include "board/advisor/card_text.h"
+#include "board/strategy/card_text.h"
 #include "engine/money_format.h"
 
 namespace marivale {

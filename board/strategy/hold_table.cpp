@@ -1,4 +1,4 @@
-#include "board/advisor/hold_table.h"
+#include "board/strategy/hold_table.h"
 
 // Standard library
 #include <algorithm>
@@ -9,7 +9,7 @@
 #include <QStyle>
 
 // Marivale
-#include "board/advisor/card_text.h"
+#include "board/strategy/card_text.h"
 #include "engine/money_format.h"
 
 namespace marivale {

@@ -1,4 +1,4 @@
-#include "play/advisor/trainer.h"
+#include "play/strategy/trainer.h"
 
 // Standard library
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "board/advisor/game_figures.h"
+#include "board/strategy/game_figures.h"
 
 // Qt
 #include <QDoubleSpinBox>

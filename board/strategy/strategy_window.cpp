@@ -1,4 +1,4 @@
-#include "board/advisor/strategy_window.h"
+#include "board/strategy/strategy_window.h"
 
 // Standard library
 #include <cmath>
@@ -10,15 +10,15 @@
 #include <QVBoxLayout>
 
 // Marivale
-#include "board/advisor/bankroll_panel.h"
-#include "board/advisor/card_text.h"
-#include "board/advisor/game_figures.h"
-#include "board/advisor/trainer_panel.h"
+#include "board/strategy/bankroll_panel.h"
+#include "board/strategy/card_text.h"
+#include "board/strategy/game_figures.h"
+#include "board/strategy/trainer_panel.h"
 #include "engine/hand_analysis.h"
 #include "engine/money_format.h"
 #include "engine/odds/draw_tables.h"
-#include "play/advisor/game_odds_cache.h"
 #include "play/game_variant.h"
+#include "play/strategy/game_odds_cache.h"
 
 namespace marivale {
 namespace {

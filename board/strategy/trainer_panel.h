@@ -7,9 +7,9 @@
 #include <QWidget>
 
 // Marivale
-#include "board/advisor/hold_table.h"
+#include "board/strategy/hold_table.h"
 #include "engine/odds/hold_odds.h"
-#include "play/advisor/trainer.h"
+#include "play/strategy/trainer.h"
 
 class QCheckBox;
 class QLabel;

@@ -1,4 +1,4 @@
-#include "play/advisor/game_odds_cache.h"
+#include "play/strategy/game_odds_cache.h"
 
 // Standard library
 #include <array>

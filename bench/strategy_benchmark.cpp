@@ -20,7 +20,7 @@
 #include <unistd.h>
 
 // Marivale
-#include "board/advisor/strategy_window.h"
+#include "board/strategy/strategy_window.h"
 #include "state/game_state.h"
 
 using namespace marivale;

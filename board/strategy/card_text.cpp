@@ -1,4 +1,4 @@
-#include "board/advisor/card_text.h"
+#include "board/strategy/card_text.h"
 
 // Standard library
 #include <array>

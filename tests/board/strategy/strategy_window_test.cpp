@@ -14,9 +14,9 @@
 #include <QtTest>
 
 // Marivale
-#include "board/advisor/game_figures.h"
-#include "board/advisor/hold_table.h"
-#include "board/advisor/strategy_window.h"
+#include "board/strategy/game_figures.h"
+#include "board/strategy/hold_table.h"
+#include "board/strategy/strategy_window.h"
 #include "engine/card.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
@@ -32,11 +32,11 @@ namespace {
 constexpr int kTablesTimeoutMs = 120'000;
 
 // A Strategy window over its own state, with a hand dealt at a bet.
-struct Advisor {
+struct Strategy {
     GameState state{};
     StrategyWindow window;
 
-    explicit Advisor(GameId game) : window(game, state) {}
+    explicit Strategy(GameId game) : window(game, state) {}
 
     void deal(const char* cards, float bet) {
         state.BetAmount = bet;
@@ -116,94 +116,95 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
     QFETCH(QString, dollars);
     QFETCH(QString, firstCard);
 
-    Advisor advisor(static_cast<GameId>(game));
-    advisor.deal(cards.toLatin1().constData(), bet);
-    QVERIFY(advisor.waitForHolds());
-    QCOMPARE(advisor.heldOfRow(0), best);
-    QCOMPARE(advisor.cell(0, HoldTable::kRankColumn), QStringLiteral("Best"));
-    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), bets);
-    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), dollars);
-    QCOMPARE(advisor.holds()->horizontalHeaderItem(HoldTable::kFirstCardColumn)->text(), firstCard);
-    QCOMPARE(advisor.holds()->rowCount(), 32);
-    QCOMPARE(advisor.cell(1, HoldTable::kRankColumn), QStringLiteral("2"));
+    Strategy strategy(static_cast<GameId>(game));
+    strategy.deal(cards.toLatin1().constData(), bet);
+    QVERIFY(strategy.waitForHolds());
+    QCOMPARE(strategy.heldOfRow(0), best);
+    QCOMPARE(strategy.cell(0, HoldTable::kRankColumn), QStringLiteral("Best"));
+    QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), bets);
+    QCOMPARE(strategy.cell(0, HoldTable::kDollarsColumn), dollars);
+    QCOMPARE(strategy.holds()->horizontalHeaderItem(HoldTable::kFirstCardColumn)->text(),
+             firstCard);
+    QCOMPARE(strategy.holds()->rowCount(), 32);
+    QCOMPARE(strategy.cell(1, HoldTable::kRankColumn), QStringLiteral("2"));
 }
 
 void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
-    Advisor advisor(GameId::JacksOrBetter);
+    Strategy strategy(GameId::JacksOrBetter);
     // A new bet changes the dollars, not the bets; with the trainer off a weak hold is not judged.
-    advisor.deal("2c As Ks Qs Js", 1.0f);
-    QVERIFY(advisor.waitForHolds());
-    advisor.state.BetAmount = 5.0f;
-    advisor.window.betChanged();
-    QCOMPARE(advisor.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$33.40"));
-    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
-    QVERIFY(advisor.label("Dealt").contains("$5.00"));
-    advisor.window.handPlayed({true, true, true, true, true});
-    QVERIFY(advisor.label("TrainerVerdict").isEmpty());
-    advisor.trainer(true);
-    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
+    strategy.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(strategy.waitForHolds());
+    strategy.state.BetAmount = 5.0f;
+    strategy.window.betChanged();
+    QCOMPARE(strategy.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$33.40"));
+    QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
+    QVERIFY(strategy.label("Dealt").contains("$5.00"));
+    strategy.window.handPlayed({true, true, true, true, true});
+    QVERIFY(strategy.label("TrainerVerdict").isEmpty());
+    strategy.trainer(true);
+    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
 
     // Standing on four to a royal and a Two: nothing (0 bets) instead of 314/47.
-    advisor.deal("2c As Ks Qs Js", 1.0f);
-    QVERIFY(advisor.waitForHolds());
-    advisor.window.handPlayed({true, true, true, true, true});
-    QVERIFY(advisor.label("TrainerVerdict").contains("Mistake"));
-    QVERIFY(advisor.label("TrainerVerdict").contains("$6.68"));
-    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+    strategy.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(strategy.waitForHolds());
+    strategy.window.handPlayed({true, true, true, true, true});
+    QVERIFY(strategy.label("TrainerVerdict").contains("Mistake"));
+    QVERIFY(strategy.label("TrainerVerdict").contains("$6.68"));
+    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
 
     // The best hold is no mistake, and the next deal clears the verdict.
-    advisor.deal("2c As Ks Qs Js", 1.0f);
-    QVERIFY(advisor.label("TrainerVerdict").isEmpty());
-    advisor.window.handPlayed({false, true, true, true, true});
-    QVERIFY(advisor.label("TrainerVerdict").startsWith("Best hold played"));
-    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+    strategy.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(strategy.label("TrainerVerdict").isEmpty());
+    strategy.window.handPlayed({false, true, true, true, true});
+    QVERIFY(strategy.label("TrainerVerdict").startsWith("Best hold played"));
+    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
 
     // Keeping only the Ace and King at two dollars costs the difference times the bet.
-    advisor.deal("2c As Ks Qs Js", 2.0f);
-    const auto& odds = *advisor.window.handOdds();
+    strategy.deal("2c As Ks Qs Js", 2.0f);
+    const auto& odds = *strategy.window.handOdds();
     const double lost = odds.holds[0b11110].expectedReturn - odds.holds[0b00110].expectedReturn;
-    advisor.window.handPlayed({false, true, true, false, false});
+    strategy.window.handPlayed({false, true, true, false, false});
     const float total = 6.680851f + static_cast<float>(lost) * 2.0f;
-    QCOMPARE(advisor.label("TrainerTally"),
+    QCOMPARE(strategy.label("TrainerTally"),
              QStringLiteral("Mistakes: 2   Cost: $%1").arg(QString::number(total, 'f', 2)));
 }
 
 void StrategyWindowTest::toolWindowShowsNoHoldsForAHandThatIsNoDeal() {
-    Advisor advisor(GameId::JacksOrBetter);
-    QCOMPARE(advisor.window.objectName(), QStringLiteral("Strategy"));
-    QCOMPARE(advisor.window.windowTitle(), QStringLiteral("Strategy"));
-    QVERIFY(advisor.window.windowFlags().testFlag(Qt::Tool));
-    QCOMPARE(advisor.window.findChild<QCheckBox*>("Trainer")->text(),
+    Strategy strategy(GameId::JacksOrBetter);
+    QCOMPARE(strategy.window.objectName(), QStringLiteral("Strategy"));
+    QCOMPARE(strategy.window.windowTitle(), QStringLiteral("Strategy"));
+    QVERIFY(strategy.window.windowFlags().testFlag(Qt::Tool));
+    QCOMPARE(strategy.window.findChild<QCheckBox*>("Trainer")->text(),
              QStringLiteral("Trainer mode"));
-    QVERIFY(!advisor.window.findChild<QCheckBox*>("Trainer")->isChecked());
-    advisor.trainer(true);
-    advisor.state.BetAmount = 1.0f;
-    advisor.state.Hand = {}; // five Aces of clubs: not a deal
-    advisor.window.handDealt();
-    advisor.window.handPlayed({true, false, false, false, false});
-    QVERIFY(!advisor.window.handOdds());
-    QVERIFY(advisor.holds()->item(0, HoldTable::kBetsColumn) == nullptr);
-    QVERIFY(advisor.label("Dealt").startsWith("Deal a hand"));
-    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
+    QVERIFY(!strategy.window.findChild<QCheckBox*>("Trainer")->isChecked());
+    strategy.trainer(true);
+    strategy.state.BetAmount = 1.0f;
+    strategy.state.Hand = {}; // five Aces of clubs: not a deal
+    strategy.window.handDealt();
+    strategy.window.handPlayed({true, false, false, false, false});
+    QVERIFY(!strategy.window.handOdds());
+    QVERIFY(strategy.holds()->item(0, HoldTable::kBetsColumn) == nullptr);
+    QVERIFY(strategy.label("Dealt").startsWith("Deal a hand"));
+    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
 }
 
 void StrategyWindowTest::gameFiguresShowTheReturnOnceWorkedOut() {
 #ifndef MARIVALE_ODDS_OPTIMISED
     QSKIP("a whole game: optimised builds only");
 #endif
-    Advisor advisor(GameId::JokerWild);
-    QVERIFY(advisor.label("GameReturn").contains(QStringLiteral("computing\u2026")));
-    QVERIFY(QTest::qWaitFor([&] { return advisor.window.gameFiguresReady(); }, kTablesTimeoutMs));
-    QVERIFY(advisor.label("GameReturn").contains("81.4339%"));
-    QCOMPARE(advisor.label("GameVariance"),
+    Strategy strategy(GameId::JokerWild);
+    QVERIFY(strategy.label("GameReturn").contains(QStringLiteral("computing\u2026")));
+    QVERIFY(QTest::qWaitFor([&] { return strategy.window.gameFiguresReady(); }, kTablesTimeoutMs));
+    QVERIFY(strategy.label("GameReturn").contains("81.4339%"));
+    QCOMPARE(strategy.label("GameVariance"),
              QStringLiteral("Variance of a hand: <b>10.0341</b> bets\u00b2 &nbsp; standard "
                             "deviation: <b>3.1677</b> bets"));
-    auto* hits = advisor.window.findChild<QTableWidget*>("HitFrequencies");
+    auto* hits = strategy.window.findChild<QTableWidget*>("HitFrequencies");
     QCOMPARE(hits->item(0, 0)->text(), QStringLiteral("Five of a Kind"));
-    QCOMPARE(advisor.pay(9)->text(), QStringLiteral("\u00d7200.00"));
+    QCOMPARE(strategy.pay(9)->text(), QStringLiteral("\u00d7200.00"));
 
     // A second window of the same game shows the kept figures at once.
-    Advisor again(GameId::JokerWild);
+    Strategy again(GameId::JokerWild);
     QVERIFY(again.window.gameFiguresReady());
 }
 
@@ -211,41 +212,41 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
 #ifndef MARIVALE_ODDS_OPTIMISED
     QSKIP("whole games: optimised builds only");
 #endif
-    Advisor advisor(GameId::JacksOrBetter);
-    auto* boardTable = advisor.window.findChild<QPushButton*>("BoardTable");
-    QCOMPARE(advisor.label("PayTableNote"), QStringLiteral("The board's pay table."));
+    Strategy strategy(GameId::JacksOrBetter);
+    auto* boardTable = strategy.window.findChild<QPushButton*>("BoardTable");
+    QCOMPARE(strategy.label("PayTableNote"), QStringLiteral("The board's pay table."));
     QVERIFY(!boardTable->isEnabled());
-    QVERIFY(advisor.waitForGame());
-    advisor.trainer(true);
+    QVERIFY(strategy.waitForGame());
+    strategy.trainer(true);
 
     for (int code = 9; code >= 1; --code) {
-        advisor.pay(code)->setValue(kNineSix[9 - code]);
+        strategy.pay(code)->setValue(kNineSix[9 - code]);
     }
-    QVERIFY(advisor.window.payTableEdited());
-    QVERIFY(advisor.label("PayTableNote").contains("Edited pay table"));
+    QVERIFY(strategy.window.payTableEdited());
+    QVERIFY(strategy.label("PayTableNote").contains("Edited pay table"));
     QVERIFY(boardTable->isEnabled());
-    QVERIFY(advisor.waitForGame());
-    QVERIFY(advisor.label("GameReturn").contains("99.5439%"));
-    QVERIFY(advisor.label("GameVariance").contains("19.5147"));
-    auto* hits = advisor.window.findChild<QTableWidget*>("HitFrequencies");
+    QVERIFY(strategy.waitForGame());
+    QVERIFY(strategy.label("GameReturn").contains("99.5439%"));
+    QVERIFY(strategy.label("GameVariance").contains("19.5147"));
+    auto* hits = strategy.window.findChild<QTableWidget*>("HitFrequencies");
     QCOMPARE(hits->item(8, GameFigures::kFrequencyColumn)->text(), QStringLiteral("21.4585%"));
 
     // Four to a royal under 9/6: (800 + 8 * 6 + 3 * 4 + 12) / 47 bets on show; the trainer
     // still judges by the board's table, where standing on it costs 314 / 47 bets.
-    advisor.deal("2c As Ks Qs Js", 1.0f);
-    QVERIFY(advisor.waitForHolds());
-    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("18.5532"));
-    advisor.window.handPlayed({true, true, true, true, true});
-    QCOMPARE(advisor.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
+    strategy.deal("2c As Ks Qs Js", 1.0f);
+    QVERIFY(strategy.waitForHolds());
+    QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), QStringLiteral("18.5532"));
+    strategy.window.handPlayed({true, true, true, true, true});
+    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 1   Cost: $6.68"));
 
     QTest::mouseClick(boardTable, Qt::LeftButton);
-    QVERIFY(!advisor.window.payTableEdited());
-    QCOMPARE(advisor.label("PayTableNote"), QStringLiteral("The board's pay table."));
+    QVERIFY(!strategy.window.payTableEdited());
+    QCOMPARE(strategy.label("PayTableNote"), QStringLiteral("The board's pay table."));
     QVERIFY(!boardTable->isEnabled());
-    QCOMPARE(advisor.pay(9)->value(), 250.0);
-    QVERIFY(advisor.waitForGame());
-    QVERIFY(advisor.label("GameReturn").contains("83.7875%"));
-    QCOMPARE(advisor.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
+    QCOMPARE(strategy.pay(9)->value(), 250.0);
+    QVERIFY(strategy.waitForGame());
+    QVERIFY(strategy.label("GameReturn").contains("83.7875%"));
+    QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
 }
 
 void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
@@ -253,10 +254,10 @@ void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
     QSKIP("a whole game: optimised builds only");
 #endif
     // The board's own Jacks or Better table at a dollar, from 160 bets over 1,600 hands.
-    Advisor advisor(GameId::JacksOrBetter);
-    advisor.state.BetAmount = 1.0f;
-    advisor.window.betChanged();
-    QVERIFY(advisor.waitForRisk());
+    Strategy strategy(GameId::JacksOrBetter);
+    strategy.state.BetAmount = 1.0f;
+    strategy.window.betChanged();
+    QVERIFY(strategy.waitForRisk());
     const auto scale = odds::ownPayScale(GameId::JacksOrBetter);
     const auto game = odds::analyzeGame(odds::DrawTables::forGame(GameId::JacksOrBetter), scale);
     const auto payouts = odds::payoutDistribution(*game, scale);
@@ -264,31 +265,31 @@ void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
     const auto percent = [](double risk) {
         return QString::number(100.0 * risk, 'f', 4) + '%';
     };
-    QCOMPARE(advisor.label("RiskOfRuin"),
+    QCOMPARE(strategy.label("RiskOfRuin"),
              QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $1.00 over 1,600 hands)")
                  .arg(percent(session.riskAt(160))));
-    QVERIFY(advisor.label("RiskTargets")
+    QVERIFY(strategy.label("RiskTargets")
                 .startsWith(QStringLiteral("Bankroll for 1% risk: <b>$%1.00</b>")
                                 .arg(session.bankrollFor(0.01))));
-    auto* chart = advisor.window.findChild<QChartView*>("RiskChart");
+    auto* chart = strategy.window.findChild<QChartView*>("RiskChart");
     const auto* line = qobject_cast<QLineSeries*>(chart->chart()->series().front());
     QVERIFY(line->count() > 10);
     QCOMPARE(line->at(0).y(), 100.0);
 
     // Half a bet covers nothing; at a quarter a bet the same dollars are four times the bets.
-    auto* bankroll = advisor.window.findChild<QDoubleSpinBox*>("Bankroll");
+    auto* bankroll = strategy.window.findChild<QDoubleSpinBox*>("Bankroll");
     bankroll->setValue(0.5);
-    QVERIFY(advisor.label("RiskOfRuin").contains("<b>100.0000%</b>"));
+    QVERIFY(strategy.label("RiskOfRuin").contains("<b>100.0000%</b>"));
     bankroll->setValue(40.0);
-    advisor.state.BetAmount = 0.25f;
-    advisor.window.betChanged();
-    QVERIFY(advisor.label("RiskOfRuin").contains(percent(session.riskAt(160))));
+    strategy.state.BetAmount = 0.25f;
+    strategy.window.betChanged();
+    QVERIFY(strategy.label("RiskOfRuin").contains(percent(session.riskAt(160))));
 
     // Fewer hands: a new curve.
-    advisor.window.findChild<QSpinBox*>("Hands")->setValue(100);
-    QVERIFY(advisor.label("RiskOfRuin").contains(QStringLiteral("computing")));
-    QVERIFY(advisor.waitForRisk());
-    QCOMPARE(advisor.label("RiskOfRuin"),
+    strategy.window.findChild<QSpinBox*>("Hands")->setValue(100);
+    QVERIFY(strategy.label("RiskOfRuin").contains(QStringLiteral("computing")));
+    QVERIFY(strategy.waitForRisk());
+    QCOMPARE(strategy.label("RiskOfRuin"),
              QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $0.25 over 100 hands)")
                  .arg(percent(odds::ruinCurve(payouts, 100)->riskAt(160))));
 }

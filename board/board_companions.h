@@ -18,6 +18,13 @@ class SessionStats;
 class StatsWindow;
 class StrategyWindow;
 
+// Which side of the board a companion window would rather stand.
+enum class Side { Left, Right };
+
+// Puts a companion window on its preferred side of the board when there is room, else on the
+// other, always whole on the board's screen.
+void placeBeside(QWidget& companion, const QWidget& board, Side preferred);
+
 class BoardCompanions {
 public:
     BoardCompanions(QWidget& board, GameId game, GameState& state, SessionStats& stats);

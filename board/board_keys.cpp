@@ -1,22 +1,13 @@
 #include "board/board_keys.h"
 
-// Standard library
-#include <algorithm>
-
 // Qt
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 
 // Marivale
 #include "ui/access_keys.h"
 
 namespace marivale {
-namespace {
-
-constexpr int kGap = 8;
-
-} // namespace
 
 void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
     for (QPushButton* button : board.findChildren<QPushButton*>()) {
@@ -49,21 +40,6 @@ bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
         target->click();
     }
     return true;
-}
-
-void placeBeside(QWidget& companion, const QWidget& board, Side preferred) {
-    const QRect outer = board.frameGeometry();
-    const QRect screen = board.screen()->availableGeometry();
-    const QSize size = companion.frameGeometry().size();
-    const int left = outer.left() - size.width() - kGap;
-    const int right = outer.right() + kGap;
-    const bool leftFits = left >= screen.left();
-    const bool rightFits = right + size.width() <= screen.right();
-    int x = preferred == Side::Left ? (leftFits || !rightFits ? left : right)
-                                    : (rightFits || !leftFits ? right : left);
-    x = std::min(x, screen.right() - size.width());
-    const int y = std::min(outer.top(), screen.bottom() - size.height());
-    companion.move(std::max(x, screen.left()), std::max(y, screen.top()));
 }
 
 } // namespace marivale

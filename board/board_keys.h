@@ -2,7 +2,7 @@
 
 // The keyboard of a board: 1 to 5 (top row or keypad) hold as a click on Card0..Card4 does,
 // Enter, Return and the keypad's Enter act as a click on DrawDeal. Enter belongs to the board,
-// never to whichever button has the focus. And the place of a companion window beside a board.
+// never to whichever button has the focus.
 
 // Marivale
 #include "board/board_design.h"
@@ -19,12 +19,5 @@ void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets);
 // Plays a key as the click it stands for; true when the key is one of the board's. A disabled
 // or hidden control stays deaf, and a key held down plays only once.
 bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event);
-
-// Which side of the board a companion window would rather stand.
-enum class Side { Left, Right };
-
-// Puts a companion window on its preferred side of the board when there is room, else on the
-// other, always whole on the board's screen.
-void placeBeside(QWidget& companion, const QWidget& board, Side preferred);
 
 } // namespace marivale

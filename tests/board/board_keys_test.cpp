@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 // Marivale
+#include "board/board_companions.h"
 #include "board/board_keys.h"
 #include "tests/support/board_fixture.h"
 

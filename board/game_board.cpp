@@ -27,7 +27,7 @@ namespace marivale {
 
 // The window's side of the board: it shows what the controller tells it and opens the modal
 // windows the controller asks for.
-class GameBoard::Impl final : public BoardView, public BonusGame {
+class GameBoard::Impl final : public BoardView, public TreasureHunt {
 public:
     Impl(GameBoard& window, const GameVariant& variant, GameState& state, RandomSource& random,
          BoardWindows windows, SessionStats* stats)
@@ -54,7 +54,7 @@ public:
     void ShowCardBacks() override;
     void bell(BellCommand command) override;
     void runDoubleUp() override;
-    BonusGame& treasureHunt() override { return *this; }
+    TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
     void handDealt() override { companions_.handDealt(); }
     void handPlayed(const std::array<bool, 5>& held) override { companions_.handPlayed(held); }

@@ -22,7 +22,7 @@ class QPushButton;
 
 namespace marivale {
 
-class TreasureHuntDialog : public QDialog, public BonusGame {
+class TreasureHuntDialog : public QDialog, public TreasureHunt {
     Q_OBJECT
 public:
     explicit TreasureHuntDialog(RandomSource& random, QWidget* parent = nullptr);

@@ -23,7 +23,7 @@ std::string_view winPatternFor(GameId game, std::uint8_t code) {
     return code < column.size() ? column[code] : std::string_view{};
 }
 
-Settlement SettleHand(GameState& state, GameId game, BonusGame& bonus) {
+Settlement SettleHand(GameState& state, GameId game, TreasureHunt& hunt) {
     const PayoutField field = payoutFieldFor(game, state.HandRank);
     if (field == nullptr) {
         return {};
@@ -39,7 +39,7 @@ Settlement SettleHand(GameState& state, GameId game, BonusGame& bonus) {
     Settlement result{true, false, winPatternFor(game, state.HandRank)};
     if (bonusHand(facts(game), state.HandRank) && isSet(state.BonusDue)) {
         state.BonusAmount = state.BetAmount;
-        bonus.play(state);
+        hunt.play(state);
         state.Credits = state.Credits + state.BonusAmount;
         state.WinAmount = credited + state.BonusAmount;
         result.bonusPlayed = true;

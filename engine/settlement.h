@@ -9,9 +9,9 @@
 namespace marivale {
 
 // The Treasure Hunt: given BonusAmount seeded with one bet, it leaves the bonus in BonusAmount.
-class BonusGame {
+class TreasureHunt {
 public:
-    virtual ~BonusGame() = default;
+    virtual ~TreasureHunt() = default;
     virtual void play(GameState& state) = 0;
 };
 
@@ -23,7 +23,7 @@ struct Settlement {
 
 // Pays HandRank into Credits (times DoubleUpFactor when above 0) and sets WinAmount; on Treasure
 // Trips a hand with the bonus due plays the bonus game and adds BonusAmount as well.
-Settlement SettleHand(GameState& state, GameId game, BonusGame& bonus);
+Settlement SettleHand(GameState& state, GameId game, TreasureHunt& hunt);
 
 // The Win box pattern of a code on a game.
 std::string_view winPatternFor(GameId game, std::uint8_t code);

@@ -60,7 +60,7 @@ public:
 
     // Shows the Double Up window modally; it leaves its result in DoubleUpFactor.
     virtual void runDoubleUp() = 0;
-    virtual BonusGame& treasureHunt() = 0;
+    virtual TreasureHunt& treasureHunt() = 0;
 
     // Companion notifications: a hand was dealt, the player drew with these holds (all five on a
     // stand), the bet changed.

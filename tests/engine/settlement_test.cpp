@@ -11,7 +11,7 @@ namespace marivale {
 namespace {
 
 // Multiplies the bonus by the given chest factors, as a player opening chests would.
-class FakeChests final : public BonusGame {
+class FakeChests final : public TreasureHunt {
 public:
     explicit FakeChests(std::vector<int> factors) : factors_(std::move(factors)) {}
     void play(GameState& state) override {

@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "engine/random_source.h"
 #include "play/play_controller.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale::testing {
 
-class FakeView final : public BoardView, public BonusGame {
+class FakeView final : public BoardView, public TreasureHunt {
 public:
     void setText(Control control, std::string_view text) override;
     std::string_view text(Control control) const override;
@@ -23,7 +23,7 @@ public:
     void ShowCardBacks() override;
     void bell(BellCommand command) override { bells.push_back(command); }
     void runDoubleUp() override;
-    BonusGame& treasureHunt() override { return *this; }
+    TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
     void handPlayed(const std::array<bool, 5>& held) override { lastHolds = held; }
 

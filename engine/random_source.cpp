@@ -30,11 +30,4 @@ double SeededRandomSource::next() {
     return uniform(engine_);
 }
 
-double ScriptedRandomSource::next() {
-    if (position_ < values_.size()) {
-        return values_[position_++];
-    }
-    return fallback_.next();
-}
-
 } // namespace marivale

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <random>
-#include <vector>
 
 namespace marivale {
 
@@ -28,7 +27,7 @@ private:
     std::mt19937_64 engine_{};
 };
 
-// A repeatable source for tests and tools: a fixed seed, and reseeding does nothing.
+// A repeatable source for tools, benchmarks and tests: a fixed seed, and reseeding does nothing.
 class SeededRandomSource final : public RandomSource {
 public:
     explicit SeededRandomSource(std::uint64_t seed) : engine_(seed) {}
@@ -37,26 +36,6 @@ public:
 
 private:
     std::mt19937_64 engine_;
-};
-
-// Plays back the given values in order, then falls back to a seeded generator.
-class ScriptedRandomSource final : public RandomSource {
-public:
-    ScriptedRandomSource() = default;
-    explicit ScriptedRandomSource(std::vector<double> values) : values_(std::move(values)) {}
-
-    double next() override;
-    void reseedFromClock() override {}
-
-    void push(double value) { values_.push_back(value); }
-    // Queues the value that makes int(value * count) come out as index.
-    void pushIndex(int index, int count) { push((index + 0.5) / count); }
-    std::size_t remaining() const { return values_.size() - position_; }
-
-private:
-    std::vector<double> values_{};
-    std::size_t position_{0};
-    SeededRandomSource fallback_{20261123};
 };
 
 } // namespace marivale

@@ -265,12 +265,4 @@ ReadOutcome readDataFile(const std::filesystem::path& directory) {
     return outcome;
 }
 
-std::optional<float> loadTotal(const std::filesystem::path& directory) {
-    const ReadOutcome outcome = readDataFile(directory);
-    if (outcome.status != ReadStatus::Read) {
-        return std::nullopt;
-    }
-    return outcome.total;
-}
-
 } // namespace marivale

@@ -55,7 +55,4 @@ struct ReadOutcome {
 // Reads the data file in the directory (the current one when empty).
 ReadOutcome readDataFile(const std::filesystem::path& directory);
 
-// The total of the data file in the directory; nothing unless readDataFile finds a number.
-std::optional<float> loadTotal(const std::filesystem::path& directory);
-
 } // namespace marivale

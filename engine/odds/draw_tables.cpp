@@ -3,7 +3,6 @@
 // Standard library
 #include <algorithm>
 #include <bit>
-#include <chrono>
 #include <future>
 #include <memory>
 #include <stdexcept>
@@ -149,7 +148,6 @@ const DrawTables* DrawTables::ifBuilt(GameId game) {
 
 DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     : game_(game), deckSize_(marivale::deckSize(game)) {
-    const auto start = std::chrono::steady_clock::now();
     // The classes of the smaller sets depend on the deck alone: found while the deals are
     // classified.
     auto smaller = std::async(std::launch::async, [this, &stop] {
@@ -164,7 +162,6 @@ DrawTables::DrawTables(GameId game, int threads, std::stop_token stop)
     countFours();
     throwIfStopped(stop);
     sumSmallerSets();
-    buildSeconds_ = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 // Classifies one deal of every suit class, then gives each outcome that occurs its slot.

@@ -65,7 +65,6 @@ public:
     void addClassCounts(int size, int id, int sign, OutcomeCounts& into) const;
 
     std::size_t memoryBytes() const;
-    double buildSeconds() const { return buildSeconds_; }
 
 private:
     void classifyDeals(int threads, std::stop_token stop);
@@ -86,7 +85,6 @@ private:
     std::vector<std::array<std::uint16_t, kMaxOutcomes>> twos_{};
     std::vector<OutcomeCounts> ones_{};
     OutcomeCounts all_{};
-    double buildSeconds_{0.0};
 };
 
 } // namespace marivale::odds

@@ -7,6 +7,7 @@
 
 // Marivale
 #include "engine/bonus_games.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale {
 namespace {

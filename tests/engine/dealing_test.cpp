@@ -9,6 +9,7 @@
 // Marivale
 #include "engine/card.h"
 #include "engine/dealing.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale {
 namespace {

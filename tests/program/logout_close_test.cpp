@@ -27,6 +27,7 @@
 #include "shell/quit_sequence.h"
 #include "shell/signal_bridge.h"
 #include "tests/support/data_folder.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale {
 

@@ -21,6 +21,7 @@
 #include "program/program_windows.h"
 #include "shell/main_menu.h"
 #include "tests/support/data_folder.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale {
 

@@ -56,6 +56,11 @@ protected:
         }
         return names;
     }
+    // The total the file holds; nothing unless it starts with a number.
+    std::optional<float> loadTotal() const {
+        const ReadOutcome read = readDataFile(folder_);
+        return read.status == ReadStatus::Read ? std::optional<float>(read.total) : std::nullopt;
+    }
     fs::path folder_;
 };
 
@@ -170,12 +175,12 @@ TEST(DataFileNotation, QuarterDollarsRoundTripExactly) {
 
 TEST_F(DataFileFolder, SaveWritesTheRecordAndLeavesNothingElse) {
     writeFile("250,junk");
-    EXPECT_EQ(loadTotal(folder_), 250.0f);
+    EXPECT_EQ(loadTotal(), 250.0f);
     const SaveOutcome outcome = saveTotal(folder_, -12.5f);
     EXPECT_TRUE(outcome.saved) << outcome.reason;
     EXPECT_EQ(outcome.file, folder_ / "mpdata.dat");
     EXPECT_EQ(fileContent(), "-12.5\r\n");
-    EXPECT_EQ(loadTotal(folder_), -12.5f);
+    EXPECT_EQ(loadTotal(), -12.5f);
     EXPECT_TRUE(strayEntries().empty());
 }
 
@@ -204,7 +209,7 @@ TEST_F(DataFileFolder, AFileWithoutModeBitsIsWrittenBackReadable) {
     }
     writeFile("-12.5\r\n");
     ASSERT_EQ(::chmod((folder_ / "mpdata.dat").c_str(), 0), 0);
-    EXPECT_EQ(loadTotal(folder_), -12.5f);
+    EXPECT_EQ(loadTotal(), -12.5f);
     ASSERT_TRUE(saveTotal(folder_, 3.0f).saved);
     struct stat info {};
     ASSERT_EQ(::stat((folder_ / "mpdata.dat").c_str(), &info), 0);
@@ -222,7 +227,7 @@ TEST_F(DataFileFolder, InterruptedSaveLeavesThePreviousFile) {
     EXPECT_FALSE(outcome.saved);
     EXPECT_FALSE(outcome.reason.empty());
     EXPECT_EQ(fileContent(), "250\r\n");
-    EXPECT_EQ(loadTotal(folder_), 250.0f);
+    EXPECT_EQ(loadTotal(), 250.0f);
     EXPECT_TRUE(strayEntries().empty());
 }
 
@@ -234,7 +239,7 @@ TEST_F(DataFileFolder, ALinkStaysALinkAndItsTargetReceivesTheTotal) {
     std::ofstream(elsewhere / "real.dat", std::ios::binary) << "-12.5\r\n";
     fs::create_symlink(elsewhere / "real.dat", folder_ / "middle.dat");
     fs::create_symlink("middle.dat", folder_ / "mpdata.dat");
-    EXPECT_EQ(loadTotal(folder_), -12.5f);
+    EXPECT_EQ(loadTotal(), -12.5f);
     ASSERT_TRUE(saveTotal(folder_, 7.25f).saved);
     EXPECT_TRUE(fs::is_symlink(folder_ / "mpdata.dat"));
     EXPECT_EQ(fs::read_symlink(folder_ / "mpdata.dat"), "middle.dat");

@@ -11,9 +11,9 @@
 #include <QString>
 
 #include "board/game_board.h"
-#include "engine/random_source.h"
 #include "program/program_windows.h"
 #include "state/game_state.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale::testing {
 

@@ -12,7 +12,7 @@
 #include <QWidget>
 
 // Marivale
-#include "engine/random_source.h"
+#include "tests/support/scripted_random_source.h"
 
 namespace marivale::testing {
 

@@ -160,4 +160,4 @@ void DoubleUpTest::doublingStopsAtTheTableLimit() {
 }
 
 QTEST_MAIN(DoubleUpTest)
-#include "double_up_test.moc"
+#include "double_up_dialog_test.moc"

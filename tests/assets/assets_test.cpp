@@ -117,4 +117,4 @@ void TestAssets::bell() {
 }
 
 QTEST_GUILESS_MAIN(TestAssets)
-#include "test_assets.moc"
+#include "assets_test.moc"

@@ -97,7 +97,7 @@ void TreasureHuntTest::playWaitsUntilOpenChest() {
         QTest::mouseClick(hunt.button("Tr2"), Qt::LeftButton);
         QTest::mouseClick(hunt.button("TClose"), Qt::LeftButton);
     });
-    BonusGame& bonus = hunt.dialog;
+    TreasureHunt& bonus = hunt.dialog;
     bonus.play(hunt.state);
     QVERIFY(!hunt.dialog.isVisible());
     QCOMPARE(hunt.state.BonusAmount, 0.75F);
@@ -123,4 +123,4 @@ void TreasureHuntTest::closedWithoutAChoicePaysOneBet() {
 }
 
 QTEST_MAIN(TreasureHuntTest)
-#include "treasure_hunt_test.moc"
+#include "treasure_hunt_dialog_test.moc"

@@ -138,4 +138,4 @@ void HelpScreenTest::closes() {
 }
 
 QTEST_MAIN(HelpScreenTest)
-#include "help_screen_test.moc"
+#include "help_dialog_test.moc"

@@ -40,7 +40,7 @@ BoardCompanions::BoardCompanions(QWidget& board, GameId game, GameState& state, 
 void BoardCompanions::toggleStrategy() {
     if (strategy_ == nullptr) {
         strategy_ = new StrategyWindow(game_, state_, &board_);
-        if (state_.DrawPhase == 1) {
+        if (phaseOf(state_) == Phase::Dealt) {
             strategy_->handDealt();
         }
         if (auto* trainer = strategy_->findChild<QCheckBox*>(QStringLiteral("Trainer"))) {
@@ -76,7 +76,7 @@ void BoardCompanions::handDealt() {
     }
 }
 
-void BoardCompanions::handPlayed(const std::array<bool, 5>& held) {
+void BoardCompanions::handPlayed(const HandHolds& held) {
     if (strategy_ != nullptr) {
         strategy_->handPlayed(held);
     }

@@ -37,7 +37,7 @@ public:
     void toggleStatistics();
 
     void handDealt();
-    void handPlayed(const std::array<bool, 5>& held);
+    void handPlayed(const HandHolds& held);
     void betChanged();
 
     // Closes both before the board unloads; the statistics go first, as they draw the model

@@ -15,7 +15,7 @@ void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
         button->setDefault(false);
     }
     clickAccessKeysAtOnce(board);
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         widgets.cards[p]->setToolTip(
             QStringLiteral("Click or press %1 to hold or release this card").arg(p + 1));
     }

@@ -57,7 +57,7 @@ public:
     TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
     void handDealt() override { companions_.handDealt(); }
-    void handPlayed(const std::array<bool, 5>& held) override { companions_.handPlayed(held); }
+    void handPlayed(const HandHolds& held) override { companions_.handPlayed(held); }
     void betChanged() override { companions_.betChanged(); }
 
     // Runs the board's unload once, however the window goes away.
@@ -109,7 +109,7 @@ void GameBoard::Impl::mapControls() {
         {Control::PLTitle, w.plTitle},
         {Control::Output2, w.output},
     };
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         controls_[holdMark(p)] = w.holdMarks[p];
     }
 }
@@ -128,7 +128,7 @@ void GameBoard::Impl::connectClicks() {
             windows_.help(window_);
         }
     });
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         QObject::connect(w.cards[p], &QPushButton::clicked, &window_,
                          [c, p] { c->cardClicked(p); });
     }
@@ -162,7 +162,7 @@ void GameBoard::Impl::setPayText(int row, std::string_view text) {
 }
 
 int GameBoard::Impl::selectedPurchase() const {
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < kPurchaseOptionCount; ++i) {
         if (widgets_.purchaseOptions[i]->isChecked()) {
             return i;
         }
@@ -171,7 +171,7 @@ int GameBoard::Impl::selectedPurchase() const {
 }
 
 void GameBoard::Impl::ShowCards() {
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         const int code = static_cast<int>(state_.Hand[p]);
         pictures_.showOn(*widgets_.cards[p],
                          QString::fromStdString(pictureFileName(variant_.game, code)));

@@ -4,7 +4,7 @@ namespace marivale {
 
 void DealCards(GameState& state, GameId game, RandomSource& random) {
     const int deck = deckSize(game);
-    const bool freshDeal = state.DrawPhase == 0;
+    const bool freshDeal = phaseOf(state) == Phase::BeforeDeal;
     if (freshDeal) {
         for (int code = 0; code < deck; ++code) {
             state.CardUsed[code] = kFalse;
@@ -12,7 +12,7 @@ void DealCards(GameState& state, GameId game, RandomSource& random) {
     }
     random.reseedFromClock();
     // A held position still takes one accepted draw; the card drawn for it stays in the deck.
-    for (int position = 0; position < 5;) {
+    for (int position = 0; position < kHandSize;) {
         const int code = static_cast<int>(random.next() * deck);
         if (code < 0 || code >= deck || isSet(state.CardUsed[code])) {
             continue;
@@ -23,8 +23,8 @@ void DealCards(GameState& state, GameId game, RandomSource& random) {
         }
         ++position;
     }
-    if (state.DrawPhase == 1) {
-        for (int position = 0; position < 5; ++position) {
+    if (phaseOf(state) == Phase::Dealt) {
+        for (int position = 0; position < kHandSize; ++position) {
             state.Held[position] = kFalse;
         }
     }

@@ -20,9 +20,18 @@ constexpr int kJokerSlot = 52;
 // Deuces Wild gives its Twos this rank, so they sort to the front.
 constexpr int kDeuceRank = -1;
 
+// The ranks the patterns name, as the rank indexes the hand holds.
+constexpr int kAce = rankIndex(Rank::Ace);
+constexpr int kTwo = rankIndex(Rank::Two);
+constexpr int kThree = rankIndex(Rank::Three);
+constexpr int kTen = rankIndex(Rank::Ten);
+constexpr int kJack = rankIndex(Rank::Jack);
+constexpr int kQueen = rankIndex(Rank::Queen);
+constexpr int kKing = rankIndex(Rank::King);
+
 struct Cards {
-    std::array<int, 5> ranks{};
-    std::array<int, 5> suits{};
+    std::array<int, kHandSize> ranks{};
+    std::array<int, kHandSize> suits{};
     bool hasJoker{false};
     int deuceCount{0};
     int threesCount{0};
@@ -40,7 +49,7 @@ struct Patterns {
 };
 
 // Orders five values ascending with a nine-exchange sorting network.
-template <typename T> void sortFive(std::array<T, 5>& v) {
+template <typename T> void sortFive(std::array<T, kHandSize>& v) {
     const auto exchange = [&v](int a, int b) {
         if (v[b] < v[a]) {
             std::swap(v[a], v[b]);
@@ -51,9 +60,9 @@ template <typename T> void sortFive(std::array<T, 5>& v) {
 }
 
 // The five codes of the hand in ascending order (the cards of a hand are distinct).
-std::array<int, 5> sortedCodes(const GameState& state) {
-    std::array<int, 5> sorted{};
-    for (int p = 0; p < 5; ++p) {
+std::array<int, kHandSize> sortedCodes(const GameState& state) {
+    std::array<int, kHandSize> sorted{};
+    for (int p = 0; p < kHandSize; ++p) {
         sorted[p] = static_cast<int>(state.Hand[p]);
     }
     sortFive(sorted);
@@ -61,11 +70,11 @@ std::array<int, 5> sortedCodes(const GameState& state) {
 }
 
 // Splits the sorted codes into suits and ranks, setting the joker, deuce and Three counts.
-Cards splitCards(const std::array<int, 5>& sorted, WildCard wild) {
+Cards splitCards(const std::array<int, kHandSize>& sorted, WildCard wild) {
     Cards cards;
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < kHandSize; ++i) {
         const int code = sorted[i];
-        if (wild == WildCard::Joker && i == 4 && code == kJoker) {
+        if (wild == WildCard::Joker && i == kHandSize - 1 && code == kJoker) {
             cards.hasJoker = true;
             cards.ranks[i] = kJokerSlot;
             cards.suits[i] = kJokerSlot;
@@ -73,11 +82,11 @@ Cards splitCards(const std::array<int, 5>& sorted, WildCard wild) {
         }
         cards.suits[i] = suitIndex(code);
         cards.ranks[i] = rankIndex(code);
-        if (wild == WildCard::Deuces && cards.ranks[i] == static_cast<int>(Rank::Two)) {
+        if (wild == WildCard::Deuces && cards.ranks[i] == kTwo) {
             ++cards.deuceCount;
             cards.ranks[i] = kDeuceRank;
         }
-        if (cards.ranks[i] == static_cast<int>(Rank::Three)) {
+        if (cards.ranks[i] == kThree) {
             ++cards.threesCount;
         }
     }
@@ -94,12 +103,12 @@ void sortRanks(Cards& cards, bool suitsFollow) {
         sortFive(cards.ranks);
         return;
     }
-    std::array<int, 5> keys{};
-    for (int i = 0; i < 5; ++i) {
+    std::array<int, kHandSize> keys{};
+    for (int i = 0; i < kHandSize; ++i) {
         keys[i] = (cards.ranks[i] + 1) * 8 + cards.suits[i];
     }
     sortFive(keys);
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < kHandSize; ++i) {
         cards.ranks[i] = keys[i] / 8 - 1;
         cards.suits[i] = keys[i] % 8;
     }
@@ -116,12 +125,13 @@ Patterns naturalPatterns(const Cards& c, bool jokerGame) {
     } else {
         f.flush = s[0] == s[1] && s[1] == s[2] && s[2] == s[3] && s[3] == s[4];
     }
-    f.royal = r[0] == 0 && r[1] == 9 && r[2] == 10 && r[3] == 11 && (r[4] == 12 || joker);
-    if (joker && r[3] == 12) {
-        if (r[0] == 0 && r[1] == 9 && (r[2] == 10 || r[2] == 11)) {
+    f.royal =
+        r[0] == kAce && r[1] == kTen && r[2] == kJack && r[3] == kQueen && (r[4] == kKing || joker);
+    if (joker && r[3] == kKing) {
+        if (r[0] == kAce && r[1] == kTen && (r[2] == kJack || r[2] == kQueen)) {
             f.royal = true;
         }
-        if (r[1] == 10 && r[2] == 11 && (r[0] == 9 || r[0] == 0)) {
+        if (r[1] == kJack && r[2] == kQueen && (r[0] == kTen || r[0] == kAce)) {
             f.royal = true;
         }
     }
@@ -174,16 +184,16 @@ HandAnalysis classifyJacks(GameState& state, const Cards& c, const Patterns& f) 
         return {handCode(Jacks::TwoPair)};
     if (!f.pair)
         return {handCode(Jacks::Nothing)};
-    int k = 5;
-    for (int i = 0; i < 4; ++i) {
+    int k = kHandSize;
+    for (int i = 0; i + 1 < kHandSize; ++i) {
         if (c.ranks[i] == c.ranks[i + 1]) {
             k = i;
         }
     }
-    if (k == 5)
+    if (k == kHandSize)
         return {handCode(Jacks::Nothing)};
     const int pairRank = c.ranks[k];
-    if (pairRank != 0 && pairRank < 10)
+    if (pairRank != kAce && pairRank < kJack)
         return {handCode(Jacks::Nothing)};
     state.Hand[0] = static_cast<float>(pairRank);
     return {handCode(Jacks::JacksOrBetter)};
@@ -194,8 +204,8 @@ HandAnalysis classifyJoker(GameState& state, PairPays pairPays, const Cards& c, 
     const bool joker = c.hasJoker;
     bool marked = false;
     if (pairPays == PairPays::Aces) {
-        const bool naturalAces = f.pair && c.ranks[0] == 0 && c.ranks[1] == 0;
-        const bool aceWithJoker = joker && c.ranks[0] == 0;
+        const bool naturalAces = f.pair && c.ranks[0] == kAce && c.ranks[1] == kAce;
+        const bool aceWithJoker = joker && c.ranks[0] == kAce;
         if (naturalAces || aceWithJoker) {
             state.Hand[0] = kAcePairMark;
             marked = true;
@@ -228,10 +238,10 @@ Patterns deucePatterns(const Cards& c) {
     const auto& r = c.ranks;
     const auto& s = c.suits;
     const auto high = [](int rank) {
-        return rank >= 9;
+        return rank >= kTen;
     };
     const auto royalLow = [](int rank) {
-        return rank == 0 || rank >= 9;
+        return rank == kAce || rank >= kTen;
     };
     Patterns f;
     switch (c.deuceCount) {
@@ -262,7 +272,7 @@ Patterns deucePatterns(const Cards& c) {
         break;
     default:
         f.flush = s[0] == s[1] && s[1] == s[2] && s[2] == s[3] && s[3] == s[4];
-        f.royal = r[0] == 0 && r[1] == 9 && r[2] == 10 && r[3] == 11 && r[4] == 12;
+        f.royal = r[0] == kAce && r[1] == kTen && r[2] == kJack && r[3] == kQueen && r[4] == kKing;
         f.straight = r[1] == r[0] + 1 && r[2] == r[1] + 1 && r[3] == r[2] + 1 && r[4] == r[3] + 1;
         f.fourKind = (r[0] == r[1] && r[1] == r[2] && r[2] == r[3]) ||
                      (r[1] == r[2] && r[2] == r[3] && r[3] == r[4]);

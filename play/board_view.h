@@ -51,7 +51,7 @@ public:
     virtual void setEnabled(Control control, bool enabled) = 0;
     // Writes a pay-table amount box, rows counted from the top.
     virtual void setPayText(int row, std::string_view text) = 0;
-    // The purchase option selected, 0..7.
+    // The purchase option selected, an index into kPurchaseOptions.
     virtual int selectedPurchase() const = 0;
 
     virtual void ShowCards() = 0;
@@ -65,7 +65,7 @@ public:
     // Companion notifications: a hand was dealt, the player drew with these holds (all five on a
     // stand), the bet changed.
     virtual void handDealt() {}
-    virtual void handPlayed(const std::array<bool, 5>& /*held*/) {}
+    virtual void handPlayed(const HandHolds& /*held*/) {}
     virtual void betChanged() {}
 };
 

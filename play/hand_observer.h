@@ -6,7 +6,6 @@
 // needs.
 
 // Standard library
-#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -17,7 +16,7 @@
 namespace marivale {
 
 using HandCards = std::array<CardCode, 5>;
-using HandHolds = std::array<bool, 5>;
+using HandHolds = HandHolds;
 
 class HandObserver {
 public:

@@ -2,7 +2,6 @@
 
 // Standard library
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 // Qt
@@ -14,18 +13,12 @@
 #include <QPainterPath>
 #include <QRegularExpression>
 
+// Marivale
+#include "ui/card_text.h"
+
 namespace marivale {
 
 namespace {
-
-// Rank letters by rank index: 0 is the Ace, 12 the King.
-constexpr std::array<const char*, 13> kRankTexts{"A", "2", "3",  "4", "5", "6", "7",
-                                                 "8", "9", "10", "J", "Q", "K"};
-
-// Suit symbols by suit index: Clubs, Diamonds, Hearts, Spades.
-constexpr std::array<char16_t, 4> kSuitSymbols{u'\u2663', u'\u2666', u'\u2665', u'\u2660'};
-
-constexpr int kJokerCode = 52;
 
 QRectF cardRect(QSize size) {
     return QRectF(0.5, 0.5, size.width() - 1.0, size.height() - 1.0);
@@ -103,19 +96,17 @@ QPixmap drawStandInCard(const QString& fileName, QSize size, qreal devicePixelRa
         return pixmap;
     }
     const QRegularExpressionMatch match = kCardName.match(fileName);
-    const int code = match.hasMatch() ? match.captured(1).toInt() : -1;
-    if (code == kJokerCode) {
-        drawFace(painter, logical, QStringLiteral("JOKER"), QString(), QColor(120, 0, 140),
+    const CardCode code = match.hasMatch() ? match.captured(1).toInt() : -1;
+    if (code == kJoker) {
+        drawFace(painter, logical, cardFaceText(code).toUpper(), QString(), cardInk(code),
                  QString());
-    } else if (code >= 0 && code < kJokerCode) {
-        const int suit = code / 13;
-        const QString text = QString::fromLatin1(kRankTexts[code % 13]) + QChar(kSuitSymbols[suit]);
-        const bool red = suit == 1 || suit == 2;
+    } else if (isCard(code)) {
+        const QString text = cardFaceText(code);
         const QString suffix = match.captured(2).toUpper();
         const QString note = suffix == QStringLiteral("W")   ? QStringLiteral("WILD")
                              : suffix == QStringLiteral("T") ? QStringLiteral("BONUS")
                                                              : QString();
-        drawFace(painter, logical, text, text, red ? QColor(200, 0, 0) : Qt::black, note);
+        drawFace(painter, logical, text, text, cardInk(code), note);
     } else {
         drawFace(painter, logical, QStringLiteral("?"), QString(), Qt::darkGray, fileName);
     }

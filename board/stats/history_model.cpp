@@ -7,30 +7,19 @@
 #include <QColor>
 
 // Marivale
-#include "board/strategy/card_text.h"
-#include "engine/money_format.h"
+#include "engine/card_text.h"
 #include "play/game_variant.h"
 #include "play/stats/history_csv.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kMoneyPattern = "$#,##0.00";
 const QColor kMistakeInk(192, 0, 0);
 
-QString money(float dollars) {
-    return QString::fromStdString(FormatMoney(dollars, kMoneyPattern));
-}
-
-// The cards of the positions in the mask, with their suit symbols; "none" for an empty mask.
-QString cards(const HandCards& hand, unsigned mask = 0x1f) {
-    QStringList list;
-    for (std::size_t p = 0; p < hand.size(); ++p) {
-        if ((mask >> p) & 1u) {
-            list << cardText(hand[p]);
-        }
-    }
-    return list.isEmpty() ? QObject::tr("none") : list.join(' ');
+// The faces of the cards in the mask; "none" for an empty mask.
+QString cards(const HandCards& hand, unsigned mask = ~0u) {
+    return QString::fromStdString(cardsText(hand, mask, CardForm::Face));
 }
 
 } // namespace
@@ -89,7 +78,7 @@ QString HistoryModel::text(const HandRecord& hand, int column) const {
         return QString::fromUtf8(variantFor(hand.game).title.data(),
                                  static_cast<qsizetype>(variantFor(hand.game).title.size()));
     case Bet:
-        return money(hand.bet);
+        return moneyText(hand.bet);
     case Dealt:
         return cards(hand.dealt);
     case Held:
@@ -102,7 +91,7 @@ QString HistoryModel::text(const HandRecord& hand, int column) const {
         }
         return hand.name.empty() ? tr("nothing") : QString::fromStdString(hand.name);
     case Paid:
-        return money(hand.paid);
+        return moneyText(hand.paid);
     case DoubleUp:
         return QString::fromStdString(doubleUpText(hand));
     case Best:

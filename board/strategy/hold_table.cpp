@@ -9,8 +9,8 @@
 #include <QStyle>
 
 // Marivale
-#include "board/strategy/card_text.h"
-#include "engine/money_format.h"
+#include "ui/card_text.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
@@ -23,7 +23,6 @@ constexpr int kRowHeight = 20;
 constexpr int kVisibleRows = 14;
 constexpr QRgb kBestRowColour = 0xffd9f2d0;
 constexpr QRgb kDiscardColour = 0xffeeeeee;
-constexpr std::string_view kDollarPattern = "$#,##0.00";
 
 QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
     auto* item = new QTableWidgetItem(text);
@@ -51,7 +50,7 @@ std::array<int, kColumns> fittedWidths(QFont font) {
 }
 
 QString dollars(double bets, float bet) {
-    return QString::fromStdString(FormatMoney(static_cast<float>(bets) * bet, kDollarPattern));
+    return moneyText(static_cast<float>(bets) * bet);
 }
 
 } // namespace
@@ -83,12 +82,13 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
     showNoDeal();
 }
 
-void HoldTable::setHeaderCards(const DealtCards* dealt) {
+void HoldTable::setHeaderCards(const HandCards* dealt) {
     setHorizontalHeaderItem(kRankColumn, new QTableWidgetItem(QString()));
     for (int p = 0; p < 5; ++p) {
-        auto* header = new QTableWidgetItem(dealt ? cardText((*dealt)[p]) : QStringLiteral("-"));
+        auto* header =
+            new QTableWidgetItem(dealt ? cardFaceText((*dealt)[p]) : QStringLiteral("-"));
         if (dealt) {
-            header->setForeground(cardColour((*dealt)[p]));
+            header->setForeground(cardInk((*dealt)[p]));
         }
         setHorizontalHeaderItem(kFirstCardColumn + p, header);
     }
@@ -111,7 +111,7 @@ void HoldTable::showNoDeal() {
     clearRows();
 }
 
-void HoldTable::showComputing(const DealtCards& dealt) {
+void HoldTable::showComputing(const HandCards& dealt) {
     odds_.reset();
     setHeaderCards(&dealt);
     clearRows();
@@ -119,7 +119,7 @@ void HoldTable::showComputing(const DealtCards& dealt) {
     setItem(0, kRankColumn, makeItem(tr("computing\u2026"), Qt::AlignCenter));
 }
 
-void HoldTable::showOdds(const DealtCards& dealt, const odds::HandOdds& odds, float bet) {
+void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet) {
     odds_ = odds;
     bet_ = bet;
     setHeaderCards(&dealt);
@@ -141,9 +141,9 @@ void HoldTable::showOdds(const DealtCards& dealt, const odds::HandOdds& odds, fl
         for (int p = 0; p < 5 && held != 0; ++p) {
             const bool kept = ((held >> p) & 1u) != 0;
             const CardCode card = dealt[p];
-            auto* cell = makeItem(kept ? cardText(card) : QString(), Qt::AlignCenter);
+            auto* cell = makeItem(kept ? cardFaceText(card) : QString(), Qt::AlignCenter);
             if (kept) {
-                cell->setForeground(cardColour(card));
+                cell->setForeground(cardInk(card));
             } else {
                 cell->setBackground(QColor::fromRgba(kDiscardColour));
             }

@@ -16,8 +16,6 @@
 
 namespace marivale {
 
-using DealtCards = std::array<CardCode, 5>;
-
 class HoldTable : public QTableWidget {
     Q_OBJECT
 public:
@@ -33,13 +31,13 @@ public:
     // No hand yet: empty rows.
     void showNoDeal();
     // The dealt cards, while their odds are still being worked out.
-    void showComputing(const DealtCards& dealt);
-    void showOdds(const DealtCards& dealt, const odds::HandOdds& odds, float bet);
+    void showComputing(const HandCards& dealt);
+    void showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet);
     // Redraws the dollar column for a new bet.
     void showBet(float bet);
 
 private:
-    void setHeaderCards(const DealtCards* dealt);
+    void setHeaderCards(const HandCards* dealt);
     void clearRows();
 
     std::optional<odds::HandOdds> odds_{};

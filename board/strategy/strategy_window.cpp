@@ -11,27 +11,21 @@
 
 // Marivale
 #include "board/strategy/bankroll_panel.h"
-#include "board/strategy/card_text.h"
 #include "board/strategy/game_figures.h"
 #include "board/strategy/trainer_panel.h"
 #include "engine/hand_analysis.h"
-#include "engine/money_format.h"
 #include "engine/odds/draw_tables.h"
 #include "play/game_variant.h"
 #include "play/strategy/game_odds_cache.h"
+#include "ui/card_text.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kDollarPattern = "$#,##0.00";
-
-QString money(float dollars) {
-    return QString::fromStdString(FormatMoney(dollars, kDollarPattern));
-}
-
 // The board's five cards; anything that is not a card code reads as -1.
-DealtCards readDeal(const GameState& state) {
-    DealtCards dealt{};
+HandCards readDeal(const GameState& state) {
+    HandCards dealt{};
     for (std::size_t p = 0; p < dealt.size(); ++p) {
         const float value = state.Hand[p];
         dealt[p] = value >= 0.0f && value <= static_cast<float>(kJoker)
@@ -226,7 +220,7 @@ void StrategyWindow::payScaleChanged() {
 }
 
 void StrategyWindow::handDealt() {
-    const DealtCards dealt = readDeal(state_);
+    const HandCards dealt = readDeal(state_);
     handOdds_.reset();
     boardHandOdds_.reset();
     pendingPlay_.reset();
@@ -259,14 +253,11 @@ void StrategyWindow::analyseDeal() {
     }
 }
 
-void StrategyWindow::handPlayed(std::array<bool, 5> held) {
+void StrategyWindow::handPlayed(HandHolds held) {
     if (!dealt_ || !trainer_->isOn()) {
         return;
     }
-    unsigned mask = 0;
-    for (std::size_t p = 0; p < held.size(); ++p) {
-        mask |= held[p] ? 1u << p : 0u;
-    }
+    const unsigned mask = holdMask(held);
     if (!boardHandOdds_) {
         pendingPlay_ = mask;
         trainer_->showChecking();
@@ -289,12 +280,8 @@ void StrategyWindow::betChanged() {
 }
 
 void StrategyWindow::showDealtLabel() {
-    QStringList cards;
-    for (const CardCode card : *dealt_) {
-        cards << cardHtml(card);
-    }
     dealtLabel_->setText(
-        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cards.join(' '), money(state_.BetAmount)));
+        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(state_.BetAmount)));
 }
 
 } // namespace marivale

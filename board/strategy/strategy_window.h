@@ -43,7 +43,7 @@ public:
     // After each deal: Hand[0..4] hold the dealt cards, BetAmount the bet.
     void handDealt();
     // At the draw (before the cards are replaced) or a stand: the holds the player used.
-    void handPlayed(std::array<bool, 5> held);
+    void handPlayed(HandHolds held);
     // The pay table changed with the bet.
     void betChanged();
 
@@ -79,7 +79,7 @@ private:
     bool edited_{false};
     int generation_{0}; // counts the tables shown, so late results of an older one are dropped
     std::optional<odds::GameOdds> gameOdds_{};
-    std::optional<DealtCards> dealt_{};
+    std::optional<HandCards> dealt_{};
     std::optional<odds::HandOdds> handOdds_{};
     std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
     std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready

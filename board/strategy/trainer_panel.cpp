@@ -7,27 +7,16 @@
 #include <QVBoxLayout>
 
 // Marivale
-#include "board/strategy/card_text.h"
-#include "engine/money_format.h"
+#include "ui/card_text.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kDollarPattern = "$#,##0.00";
-
-QString money(float dollars) {
-    return QString::fromStdString(FormatMoney(dollars, kDollarPattern));
-}
-
 // The cards a hold keeps, as coloured text; "nothing" for a draw of five.
-QString heldHtml(const DealtCards& dealt, unsigned held) {
-    QStringList cards;
-    for (std::size_t p = 0; p < dealt.size(); ++p) {
-        if ((held >> p) & 1u) {
-            cards << cardHtml(dealt[p]);
-        }
-    }
-    return cards.isEmpty() ? QObject::tr("nothing") : cards.join(' ');
+QString heldHtml(const HandCards& dealt, unsigned held) {
+    const QString cards = cardsHtml(dealt, held);
+    return cards.isEmpty() ? QObject::tr("nothing") : cards;
 }
 
 } // namespace
@@ -74,7 +63,7 @@ void TrainerPanel::showChecking() {
     verdict_->setText(tr("Checking your hold\u2026"));
 }
 
-void TrainerPanel::judge(const odds::HandOdds& odds, const DealtCards& dealt, unsigned played,
+void TrainerPanel::judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played,
                          float bet) {
     const TrainerVerdict verdict = tally_.judge(odds, played, bet);
     if (verdict.mistake) {
@@ -83,7 +72,7 @@ void TrainerPanel::judge(const odds::HandOdds& odds, const DealtCards& dealt, un
                "It cost %5.")
                 .arg(heldHtml(dealt, verdict.played), QString::number(verdict.playedReturn, 'f', 4),
                      heldHtml(dealt, verdict.best), QString::number(verdict.bestReturn, 'f', 4),
-                     money(verdict.cost)));
+                     moneyText(verdict.cost)));
     } else {
         verdict_->setText(
             tr("Best hold played (%1 bets).").arg(QString::number(verdict.playedReturn, 'f', 4)));
@@ -93,7 +82,7 @@ void TrainerPanel::judge(const odds::HandOdds& odds, const DealtCards& dealt, un
 
 void TrainerPanel::showTally() {
     tallyLabel_->setText(
-        tr("Mistakes: %1   Cost: %2").arg(tally_.mistakes()).arg(money(tally_.cost())));
+        tr("Mistakes: %1   Cost: %2").arg(tally_.mistakes()).arg(moneyText(tally_.cost())));
     tallyLabel_->setEnabled(trainer_->isChecked());
 }
 

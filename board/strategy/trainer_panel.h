@@ -26,7 +26,7 @@ public:
     // The hold came before its odds: the verdict follows once they are worked out.
     void showChecking();
     // Judges the hold `played` (mask over board positions) of the dealt cards at a bet.
-    void judge(const odds::HandOdds& odds, const DealtCards& dealt, unsigned played, float bet);
+    void judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played, float bet);
 
 private:
     void showTally();

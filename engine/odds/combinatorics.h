@@ -14,7 +14,6 @@
 namespace marivale::odds {
 
 inline constexpr int kMaxDeck = 53;
-inline constexpr int kHandSize = 5;
 
 namespace detail {
 constexpr std::array<std::array<std::uint32_t, kHandSize + 2>, kMaxDeck + 1> makeBinomials() {

@@ -6,26 +6,14 @@
 #include <string_view>
 
 // Marivale
+#include "engine/card_text.h"
 #include "play/game_variant.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kRanks = "A23456789TJQK";
-constexpr std::string_view kSuits = "cdhs";
-
 constexpr std::string_view kHeader =
     "Hand,Visit,Game,Bet,Dealt,Held,Final,Result,Paid,Double Up,Bonus,Best Hold,Cost\n";
-
-std::string cardText(CardCode card) {
-    if (card == kJoker) {
-        return "Jk";
-    }
-    if (card < 0 || card > kJoker) {
-        return "??";
-    }
-    return {kRanks[rankIndex(card)], kSuits[suitIndex(card)]};
-}
 
 // Quotes a field that holds a comma, a quote or a line break.
 std::string field(std::string_view text) {
@@ -52,16 +40,6 @@ std::string fixedText(double value, int decimals) {
         return "?";
     }
     return std::string(buffer.data(), end);
-}
-
-std::string cardsText(const HandCards& cards, unsigned mask) {
-    std::string text;
-    for (std::size_t p = 0; p < cards.size(); ++p) {
-        if ((mask >> p) & 1u) {
-            text += (text.empty() ? "" : " ") + cardText(cards[p]);
-        }
-    }
-    return text.empty() ? "none" : text;
 }
 
 std::string doubleUpText(const HandRecord& hand) {

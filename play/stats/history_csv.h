@@ -1,7 +1,7 @@
 #pragma once
 
-// The hand history as text: cards as "As Kd Tc 2h Jk", the Double Up outcome in words, and the
-// whole history as comma-separated values with "." for decimals whatever the locale.
+// The hand history as text: cards in their short form ("As Kd Tc 2h Jk"), the Double Up outcome in
+// words, and the whole history as comma-separated values with "." for decimals whatever the locale.
 
 // Standard library
 #include <string>
@@ -14,9 +14,6 @@ namespace marivale {
 
 // A number with a fixed count of decimals and a "." point.
 std::string fixedText(double value, int decimals);
-
-// The cards of the positions in the mask, in board order; "none" when the mask is empty.
-std::string cardsText(const HandCards& cards, unsigned mask = 0x1f);
 
 // "took score", "no guess", "won x4", "lost"; empty when Double Up was not offered.
 std::string doubleUpText(const HandRecord& hand);

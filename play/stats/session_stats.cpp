@@ -48,14 +48,6 @@ void Tally::add(const Tally& other) {
     bonusFactors += other.bonusFactors;
 }
 
-unsigned holdMask(const HandHolds& holds) {
-    unsigned mask = 0;
-    for (std::size_t p = 0; p < holds.size(); ++p) {
-        mask |= holds[p] ? 1u << p : 0u;
-    }
-    return mask;
-}
-
 std::optional<double>
 expectedReturn(const std::array<Tally, kGameCount>& tallies,
                const std::array<std::optional<double>, kGameCount>& gameReturns) {

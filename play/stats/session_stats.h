@@ -159,9 +159,6 @@ private:
     std::function<void()> listener_{};
 };
 
-// Holds as a mask over board positions.
-unsigned holdMask(const HandHolds& holds);
-
 // The return the player could expect over a set of games, each weighted by what was bet on it;
 // nothing before a bet or while a game with bets has no known return.
 std::optional<double>

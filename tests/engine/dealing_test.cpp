@@ -7,7 +7,6 @@
 #include <set>
 
 // Marivale
-#include "engine/card.h"
 #include "engine/dealing.h"
 #include "tests/support/scripted_random_source.h"
 
@@ -33,7 +32,7 @@ int markedCount(const GameState& state, int deck = 53) {
 
 std::set<int> handCodes(const GameState& state) {
     std::set<int> codes;
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         codes.insert(static_cast<int>(state.Hand[p]));
     }
     return codes;
@@ -43,16 +42,6 @@ void scriptCodes(ScriptedRandomSource& random, std::initializer_list<int> codes,
     for (const int code : codes) {
         random.pushIndex(code, deck);
     }
-}
-
-TEST(CardCode, SuitAndRank) {
-    EXPECT_EQ(suitIndex(0), 0);
-    EXPECT_EQ(rankOf(0), Rank::Ace);
-    EXPECT_EQ(suitIndex(13), 1);
-    EXPECT_EQ(rankOf(13), Rank::Ace);
-    EXPECT_EQ(rankOf(14), Rank::Two);
-    EXPECT_EQ(suitIndex(51), 3);
-    EXPECT_EQ(rankOf(51), Rank::King);
 }
 
 TEST(DealCards, ScriptedFreshDealSkipsCardsAlreadyTaken) {
@@ -130,13 +119,13 @@ TEST(DealCards, PropertiesOverManyHands) {
             jokers += dealt.count(kJoker) ? 1 : 0;
 
             state.DrawPhase = 1;
-            for (int p = 0; p < 5; ++p) {
+            for (int p = 0; p < kHandSize; ++p) {
                 state.Held[p] = (hand >> p) & 1 ? kTrue : kFalse;
             }
             DealCards(state, game, random);
             const std::set<int> drawn = handCodes(state);
             ASSERT_EQ(drawn.size(), 5u);
-            for (int p = 0; p < 5; ++p) {
+            for (int p = 0; p < kHandSize; ++p) {
                 const int code = static_cast<int>(state.Hand[p]);
                 ASSERT_EQ(state.CardUsed[code], kTrue);
                 const bool held = (hand >> p) & 1;

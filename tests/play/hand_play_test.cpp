@@ -84,7 +84,7 @@ TEST(Draw, PaysAtOnceWithDoubleUpOff) {
               (std::vector<BellCommand>{BellCommand::Open, BellCommand::Play, BellCommand::Prev}));
     EXPECT_EQ(t.view.text(Control::Credit), "$24.00");
     EXPECT_EQ(t.view.text(Control::Win), "$5.00");
-    EXPECT_EQ(t.view.lastHolds, (std::array<bool, 5>{true, true, true, true, false}));
+    EXPECT_EQ(t.view.lastHolds, (HandHolds{true, true, true, true, false}));
     expectPhaseZero(t);
 }
 

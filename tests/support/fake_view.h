@@ -25,7 +25,7 @@ public:
     void runDoubleUp() override;
     TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
-    void handPlayed(const std::array<bool, 5>& held) override { lastHolds = held; }
+    void handPlayed(const HandHolds& held) override { lastHolds = held; }
 
     bool enabled(Control control) const;
     void bind(GameState& state) { state_ = &state; }
@@ -37,7 +37,7 @@ public:
     int doubleUps{0};
     int bonusGames{0};
     std::vector<BellCommand> bells{};
-    std::array<bool, 5> lastHolds{};
+    HandHolds lastHolds{};
     // What the Double Up window does to the state; by default no guess is made.
     std::function<void(GameState&)> doubleUpPlay{[](GameState& s) {
         s.DoubleUpFactor = 1;

@@ -10,6 +10,7 @@
 
 // Marivale
 #include "card_painters.h"
+#include "engine/card_text.h"
 #include "paint_helpers.h"
 #include "suit_shapes.h"
 
@@ -162,23 +163,21 @@ void paintPips(QPainter& painter, Suit suit, int count, qreal top, qreal bottom)
 }
 
 QString rankLabel(int rank) {
-    // The corner text of each rank index.
-    static constexpr std::array<const char*, kRanksPerSuit> labels{
-        "A", "2", "3", "4", "5", "6", "7", "8", "9", "10", "J", "Q", "K"};
-    return QString::fromLatin1(labels.at(static_cast<std::size_t>(rank)));
+    const std::string_view face = rankFace(static_cast<Rank>(rank));
+    return QString::fromLatin1(face.data(), static_cast<qsizetype>(face.size()));
 }
 
 namespace {
 
 // Paints card `code` with its mark onto a fresh canvas.
 void paintCard(QPainter& painter, int code, Mark mark) {
-    if (code == kJokerCode) {
+    if (code == kJoker) {
         paintBlankCard(painter, kPaper);
         paintJoker(painter);
         return;
     }
     const Suit suit = suitOf(code);
-    const int rank = rankOf(code);
+    const int rank = rankIndex(code);
     paintBlankCard(painter, mark == Mark::Treasure ? kCream : kPaper);
     qreal top = 34.0;
     qreal bottom = kCardHeight - 34.0;

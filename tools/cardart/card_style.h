@@ -5,27 +5,15 @@
 #include <QColor>
 #include <QRectF>
 
+// Marivale
+#include "engine/card.h"
+
 namespace marivale::cardart {
 
 // Every card picture is drawn at twice the size of the board's card button (77 x 103 px).
 inline constexpr int kCardWidth = 154;
 inline constexpr int kCardHeight = 206;
 inline constexpr qreal kCornerRadius = 10.0;
-
-// Suit index = card code / 13. The pictures fix the suits in this order:
-// 0 = Clubs, 1 = Diamonds, 2 = Hearts, 3 = Spades (hearts and diamonds red, clubs and spades
-// black).
-enum class Suit { Clubs = 0, Diamonds = 1, Hearts = 2, Spades = 3 };
-
-inline constexpr int kRanksPerSuit = 13;
-inline constexpr int kJokerCode = 52;
-
-inline Suit suitOf(int code) {
-    return static_cast<Suit>(code / kRanksPerSuit);
-}
-inline int rankOf(int code) {
-    return code % kRanksPerSuit;
-} // 0 = Ace ... 12 = King
 
 // The deck's inks.
 inline constexpr QRgb kInkRed = qRgb(204, 20, 38);
@@ -39,9 +27,6 @@ inline constexpr QRgb kSkin = qRgb(250, 218, 180);
 inline constexpr QRgb kBlue = qRgb(30, 70, 170);
 inline constexpr QRgb kOutline = qRgb(40, 30, 30);
 
-inline bool isRed(Suit suit) {
-    return suit == Suit::Diamonds || suit == Suit::Hearts;
-}
 inline QColor suitColor(Suit suit) {
     return QColor(isRed(suit) ? kInkRed : kInkBlack);
 }

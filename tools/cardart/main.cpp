@@ -20,6 +20,7 @@
 #include "chest_and_bell.h"
 #include "gif_writer.h"
 
+using namespace marivale;
 using namespace marivale::cardart;
 
 namespace {
@@ -38,14 +39,16 @@ constexpr QRgb kFelt = qRgb(22, 96, 56);
 // The file names of the 62 card pictures, in contact-sheet order.
 std::vector<QString> pictureNames() {
     std::vector<QString> names;
-    for (int code = 0; code <= kJokerCode; ++code) {
+    for (int code = 0; code <= kJoker; ++code) {
         names.push_back(QString::number(code) + QStringLiteral(".gif"));
     }
-    for (int suit = 0; suit < 4; ++suit) {
-        names.push_back(QString::number(suit * kRanksPerSuit + 2) + QStringLiteral("T.gif"));
+    for (int suit = 0; suit < kSuitCount; ++suit) {
+        names.push_back(QString::number(makeCard(Rank::Three, static_cast<Suit>(suit))) +
+                        QStringLiteral("T.gif"));
     }
-    for (int suit = 0; suit < 4; ++suit) {
-        names.push_back(QString::number(suit * kRanksPerSuit + 1) + QStringLiteral("W.gif"));
+    for (int suit = 0; suit < kSuitCount; ++suit) {
+        names.push_back(QString::number(makeCard(Rank::Two, static_cast<Suit>(suit))) +
+                        QStringLiteral("W.gif"));
     }
     names.push_back(QStringLiteral("bb.gif"));
     return names;
@@ -53,14 +56,14 @@ std::vector<QString> pictureNames() {
 
 bool writeCards(const QDir& dir) {
     bool ok = true;
-    for (int code = 0; code <= kJokerCode; ++code) {
+    for (int code = 0; code <= kJoker; ++code) {
         ok = writeGif(drawCard(code, Mark::None),
                       dir.filePath(QStringLiteral("%1.gif").arg(code))) &&
              ok;
     }
-    for (int suit = 0; suit < 4; ++suit) {
-        const int three = suit * kRanksPerSuit + 2;
-        const int two = suit * kRanksPerSuit + 1;
+    for (int suit = 0; suit < kSuitCount; ++suit) {
+        const int three = makeCard(Rank::Three, static_cast<Suit>(suit));
+        const int two = makeCard(Rank::Two, static_cast<Suit>(suit));
         ok = writeGif(drawCard(three, Mark::Treasure),
                       dir.filePath(QStringLiteral("%1T.gif").arg(three))) &&
              ok;

@@ -74,9 +74,6 @@ TEST(HistoryCsv, OneRowPerHandAfterTheHeader) {
 TEST(HistoryCsv, TextHelpers) {
     EXPECT_EQ(fixedText(1234567.891, 2), "1234567.89");
     EXPECT_EQ(fixedText(-0.5, 4), "-0.5000");
-    EXPECT_EQ(cardsText({0, 9, 12, 52, 51}), "Ac Tc Kc Jk Ks");
-    EXPECT_EQ(cardsText({0, 9, 12, 52, 51}, 0b10010), "Tc Ks");
-    EXPECT_EQ(cardsText({0, 9, 12, 52, 51}, 0), "none");
     HandRecord hand;
     const std::pair<DoubleUpResult, const char*> outcomes[] = {
         {DoubleUpResult::NotOffered, ""},

@@ -11,9 +11,9 @@
 
 // Marivale
 #include "engine/bonus_games.h"
-#include "engine/money_format.h"
 #include "ui/design_look.h"
 #include "ui/dialog_setup.h"
+#include "ui/money_text.h"
 #include "ui/twips.h"
 
 // The chest pictures are compiled into this library; a static library must load them itself.
@@ -115,7 +115,7 @@ void TreasureHuntDialog::chooseChest() {
         return;
     }
     openChest(*state_, random_);
-    pay_->setText(QString::fromStdString(FormatMoney(state_->BonusAmount, pattern::kBonus)));
+    pay_->setText(moneyText(state_->BonusAmount, pattern::kBonus));
     close_->show();
 }
 

@@ -12,13 +12,16 @@ namespace marivale {
 // prints the digits of its exact value, however large (2E+20 is $200,000,004,008,175,468,544.00).
 std::string FormatMoney(float value, std::string_view pattern);
 
+// The pattern of every money display, by what it shows.
 namespace pattern {
+inline constexpr std::string_view kTotal = "$#,###,##0.00"; // the running total and its messages
 inline constexpr std::string_view kCredit = "$#,###,##0.00";
 inline constexpr std::string_view kStatistic = "$#,###,##0.00";
 inline constexpr std::string_view kStatisticPlain = "#,###,##0.00";
 inline constexpr std::string_view kBet = "$##0.00";
 inline constexpr std::string_view kWinLast = "$##,##0.00";
 inline constexpr std::string_view kBonus = "$#,##0.00";
+inline constexpr std::string_view kCompanion = "$#,##0.00"; // Strategy and statistics windows
 } // namespace pattern
 
 } // namespace marivale

@@ -11,7 +11,6 @@ namespace marivale {
 
 namespace {
 
-constexpr std::string_view kTotalPattern = "$#,###,##0.00";
 constexpr std::string_view kCaptionAfterClear = "Stats";
 
 } // namespace
@@ -83,7 +82,7 @@ void MenuController::gameClicked(GameId game) {
 // Both displays of the total; captionAtZero is the path's caption for a total of exactly 0.
 void MenuController::showTotal(std::string_view captionAtZero) {
     const float total = state_.NetWinLoss;
-    view_.setText(MenuText::WinLoss, FormatMoney(total, kTotalPattern));
+    view_.setText(MenuText::WinLoss, FormatMoney(total, pattern::kTotal));
     if (total > 0.0f) {
         view_.setText(MenuText::StatFrame, "Winnings");
     } else if (total < 0.0f) {

@@ -13,7 +13,6 @@ namespace marivale {
 
 namespace {
 
-constexpr std::string_view kTotalPattern = "$#,###,##0.00";
 constexpr std::string_view kPlayOnAtZero =
     "\n\nYou can play on; the total starts at $0.00 and will not be kept.";
 
@@ -43,7 +42,7 @@ TotalKeeper::Loaded TotalKeeper::load() {
                 tell("The file that keeps your total,\n" + file +
                      "\ncan be read but not written, so it is left as it is.\n\nYou can play on "
                      "from " +
-                     FormatMoney(read.total, kTotalPattern) +
+                     FormatMoney(read.total, pattern::kTotal) +
                      "; what you win or lose from now on will not be kept.");
         }
         return loaded;
@@ -82,7 +81,7 @@ std::string TotalKeeper::save(float total) {
     if (saved.saved || told_) {
         return {};
     }
-    return tell("Your total of " + FormatMoney(total, kTotalPattern) +
+    return tell("Your total of " + FormatMoney(total, pattern::kTotal) +
                 " could not be saved.\n\nThe file\n" + saved.file.string() +
                 "\ncould not be written (" + saved.reason + ").");
 }

@@ -10,19 +10,14 @@
 // Marivale
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
-#include "engine/money_format.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kMoneyPattern = "$#,##0.00";
 constexpr int kRowHeight = 20;
 const QString kNone = QStringLiteral("-");
 const QString kComputing = QStringLiteral("\u2026");
-
-QString money(float dollars) {
-    return QString::fromStdString(FormatMoney(dollars, kMoneyPattern));
-}
 
 QString percent(std::optional<double> ratio, const QString& otherwise = kNone) {
     return ratio ? QString::number(100.0 * *ratio, 'f', 2) + QLatin1Char('%') : otherwise;
@@ -74,7 +69,7 @@ QString trainerCell(const TrainerSummary& summary, bool cost) {
     if (summary.pending > 0) {
         return kComputing;
     }
-    return cost ? money(summary.cost) : QString::number(summary.mistakes);
+    return cost ? moneyText(summary.cost) : QString::number(summary.mistakes);
 }
 
 } // namespace
@@ -115,8 +110,8 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
             setCell(table, static_cast<int>(r), column, text);
         };
         row(SummaryRow::Hands, QString::number(t.hands));
-        row(SummaryRow::Bet, money(t.bet));
-        row(SummaryRow::Paid, money(t.paid));
+        row(SummaryRow::Bet, moneyText(t.bet));
+        row(SummaryRow::Paid, moneyText(t.paid));
         row(SummaryRow::Return, percent(t.actualReturn()));
         row(SummaryRow::ExactReturn,
             t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));

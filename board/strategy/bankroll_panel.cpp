@@ -19,12 +19,11 @@
 #include <QValueAxis>
 
 // Marivale
-#include "engine/money_format.h"
+#include "ui/money_text.h"
 
 namespace marivale {
 namespace {
 
-constexpr std::string_view kDollarPattern = "$#,##0.00";
 constexpr double kMostDollars = 10'000'000.0;
 // The chart runs to the bankroll of this risk, and shows at most this many points.
 constexpr double kChartRisk = 0.001;
@@ -32,7 +31,7 @@ constexpr int kChartPoints = 300;
 constexpr QSize kChartSize{380, 220};
 
 QString money(double dollars) {
-    return QString::fromStdString(FormatMoney(static_cast<float>(dollars), kDollarPattern));
+    return moneyText(static_cast<float>(dollars));
 }
 
 QString percent(double risk) {

@@ -5,8 +5,8 @@
 
 namespace marivale {
 
-bool guessWins(DoubleUpGuess guess, int rank) {
-    const bool low = rank >= 1 && rank <= 6;
+bool guessWins(DoubleUpGuess guess, Rank rank) {
+    const bool low = rank >= Rank::Two && rank <= Rank::Seven;
     return guess == DoubleUpGuess::Low ? low : !low;
 }
 
@@ -20,7 +20,7 @@ CardCode drawDoubleUpCard(RandomSource& random) {
 
 GuessResult playGuess(GameState& state, RandomSource& random, DoubleUpGuess guess) {
     const GuessResult result{drawDoubleUpCard(random), false};
-    if (!guessWins(guess, rankIndex(result.card))) {
+    if (!guessWins(guess, rankOf(result.card))) {
         state.DoubleUpFactor = 0;
         return result;
     }
@@ -30,7 +30,9 @@ GuessResult playGuess(GameState& state, RandomSource& random, DoubleUpGuess gues
 }
 
 int chestFactor(double value) {
-    return std::clamp(static_cast<int>(value * 10 + 1), 1, 10) * 3;
+    constexpr int count = static_cast<int>(kChestFactors.size());
+    const int pick = std::clamp(static_cast<int>(value * count + 1), 1, count);
+    return kChestFactors[pick - 1];
 }
 
 int openChest(GameState& state, RandomSource& random) {

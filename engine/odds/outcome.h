@@ -7,6 +7,9 @@
 #include <array>
 #include <cstdint>
 
+// Marivale
+#include "engine/hand_codes.h"
+
 namespace marivale::odds {
 
 struct Outcome {
@@ -15,9 +18,9 @@ struct Outcome {
     friend bool operator==(const Outcome&, const Outcome&) = default;
 };
 
-// Outcome slots: 0..10 are the codes without the bonus, 11..15 the bonus outcomes in use.
+// Outcome slots: one per hand code without the bonus (0..10), then the bonus outcomes in use.
+inline constexpr int kCodeSlots = kHandCodes;
 inline constexpr int kMaxOutcomes = 16;
-inline constexpr int kCodeSlots = 11;
 
 using OutcomeCounts = std::array<std::int32_t, kMaxOutcomes>;
 // What each outcome slot pays, in bets.

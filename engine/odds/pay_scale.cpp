@@ -9,7 +9,7 @@ namespace marivale::odds {
 namespace {
 // The mean value a bet adds through the game's bonus, per bet.
 double bonusMean(GameId game) {
-    return facts(game).bonus == Bonus::TreasureHunt ? kTreasureHuntMean : 0.0;
+    return facts(game).bonus == Bonus::TreasureHunt ? kChestFactorMean : 0.0;
 }
 } // namespace
 
@@ -47,7 +47,7 @@ OutcomeValues outcomeValues(const DrawTables& tables, const PayScale& scale) {
 std::array<double, kChestFactors.size()> chestValues(const PayScale& scale) {
     std::array<double, kChestFactors.size()> values{};
     for (std::size_t i = 0; i < values.size(); ++i) {
-        values[i] = static_cast<double>(kChestFactors[i]) * scale.bonus / kTreasureHuntMean;
+        values[i] = static_cast<double>(kChestFactors[i]) * scale.bonus / kChestFactorMean;
     }
     return values;
 }

@@ -9,23 +9,12 @@
 #include <span>
 
 // Marivale
+#include "engine/bonus_games.h"
 #include "engine/game.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/outcome.h"
 
 namespace marivale::odds {
-
-// The chest factors of the Treasure Hunt, each equally likely at one chest choice.
-inline constexpr std::array<int, 10> kChestFactors{3, 6, 9, 12, 15, 18, 21, 24, 27, 30};
-
-// The mean bonus of one chest choice in bets (16.5).
-inline constexpr double kTreasureHuntMean = [] {
-    int sum = 0;
-    for (const int factor : kChestFactors) {
-        sum += factor;
-    }
-    return static_cast<double>(sum) / static_cast<double>(kChestFactors.size());
-}();
 
 struct PayScale {
     std::array<double, kCodeSlots> multiplier{}; // by code; code 0 pays nothing

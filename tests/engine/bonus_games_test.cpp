@@ -15,12 +15,12 @@ namespace {
 TEST(DoubleUp, EveryRankAgainstEachGuess) {
     // Ace, Two .. King by rank index: which guess wins.
     const char* winners = "HLLLLLL-HHHHH";
-    for (int rank = 0; rank < 13; ++rank) {
-        if (rank == 7) {
+    for (int rank = 0; rank < kRanksPerSuit; ++rank) {
+        if (static_cast<Rank>(rank) == Rank::Eight) {
             continue;
         }
-        EXPECT_EQ(guessWins(DoubleUpGuess::Low, rank), winners[rank] == 'L') << rank;
-        EXPECT_EQ(guessWins(DoubleUpGuess::High, rank), winners[rank] == 'H') << rank;
+        EXPECT_EQ(guessWins(DoubleUpGuess::Low, static_cast<Rank>(rank)), winners[rank] == 'L');
+        EXPECT_EQ(guessWins(DoubleUpGuess::High, static_cast<Rank>(rank)), winners[rank] == 'H');
     }
 }
 

@@ -130,9 +130,9 @@ struct PayStats {
 inline PayStats payStats(const CodeCounts& counts, const odds::PayScale& scale) {
     double chestMean = 0.0;
     double chestSquare = 0.0;
-    for (const int factor : odds::kChestFactors) {
-        chestMean += factor / static_cast<double>(odds::kChestFactors.size());
-        chestSquare += factor * factor / static_cast<double>(odds::kChestFactors.size());
+    for (const int factor : kChestFactors) {
+        chestMean += factor / static_cast<double>(kChestFactors.size());
+        chestSquare += factor * factor / static_cast<double>(kChestFactors.size());
     }
     double sum = 0.0;
     double squares = 0.0;

@@ -235,7 +235,7 @@ TEST(DrawTables, TreasureTripsBonusOutcomesAreTheHandsThatCanHoldThreeThrees) {
 }
 
 TEST(PayScale, OwnTablesAndGivenMultipliers) {
-    static_assert(odds::kTreasureHuntMean == 16.5);
+    static_assert(kChestFactorMean == 16.5);
     const auto treasure = odds::ownPayScale(GameId::TreasureTrips);
     EXPECT_EQ(treasure.bonus, 16.5);
     EXPECT_EQ(treasure.multiplier[9], 250);

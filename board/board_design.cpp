@@ -20,10 +20,6 @@ namespace marivale {
 
 namespace {
 
-// The purchase options, by index, in two columns of four.
-constexpr std::array<const char*, 8> kPurchaseCaptions{"$1,000.00", "$500.00", "$100.00", "$50.00",
-                                                       "$20.00",    "$10.00",  "$5.00",   "$1.00"};
-
 // Places of the controls, in twips, relative to their frame or the window.
 constexpr TwipRect kPayFrame{120, 120, 3240, 2880};
 constexpr TwipRect kCreditsFrame{120, 3120, 3240, 2400};
@@ -138,8 +134,10 @@ QLineEdit* field(QWidget& parent, const char* name, TwipRect rect, const QPalett
     return f;
 }
 
-QPushButton* button(QWidget& parent, const char* name, const char* caption, TwipRect rect) {
-    return place(new QPushButton(QString::fromLatin1(caption)), parent, name, rect);
+QPushButton* button(QWidget& parent, const char* name, std::string_view caption, TwipRect rect) {
+    return place(
+        new QPushButton(QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()))),
+        parent, name, rect);
 }
 
 QFrame* panel(QWidget& parent, const char* name, TwipRect rect, const QPalette& display) {
@@ -178,15 +176,18 @@ void buildPayTable(QDialog& window, const GameVariant& v, const Schemes& s, Boar
 void buildPurchase(QDialog& window, const Schemes& s, BoardWidgets& w) {
     auto* frame =
         place(new DesignFrame(QStringLiteral("Credits")), window, "Frame2", kCreditsFrame);
-    for (int i = 0; i < 8; ++i) {
-        const TwipRect rect{i < 4 ? 240 : 1740, 360 + (i % 4) * 360, 1380, 300};
-        auto* option =
-            place(new QRadioButton(QString::fromLatin1(kPurchaseCaptions[i])), *frame, "", rect);
+    constexpr int perColumn = kPurchaseOptionCount / 2;
+    for (int i = 0; i < kPurchaseOptionCount; ++i) {
+        const TwipRect rect{i < perColumn ? 240 : 1740, 360 + (i % perColumn) * 360, 1380, 300};
+        const std::string_view caption = kPurchaseOptions[i].caption;
+        auto* option = place(new QRadioButton(QString::fromUtf8(
+                                 caption.data(), static_cast<qsizetype>(caption.size()))),
+                             *frame, "", rect);
         option->setObjectName(QStringLiteral("POption%1").arg(i));
         option->setPalette(s.boardOption);
         w.purchaseOptions[i] = option;
     }
-    w.purchaseOptions[4]->setChecked(true);
+    w.purchaseOptions[kFirstPurchaseOption]->setChecked(true);
     w.purchase = button(*frame, "Purchase", "&Purchase", {870, 1860, 1500, 420});
 }
 
@@ -207,7 +208,7 @@ void buildPanels(QDialog& window, const Schemes& s, BoardWidgets& w) {
 }
 
 void buildCards(QDialog& window, const Schemes& s, BoardWidgets& w) {
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         const int left = kCardLeft + p * kCardStep;
         w.holdMarks[p] =
             displayLabel(window, "", {left, kHoldTop, kCardWidth, kHoldHeight}, s.display);
@@ -215,9 +216,10 @@ void buildCards(QDialog& window, const Schemes& s, BoardWidgets& w) {
         w.cards[p] = button(window, "", "", {left, kCardTop, kCardWidth, kCardHeight});
         w.cards[p]->setObjectName(QStringLiteral("Card%1").arg(p));
     }
-    w.stand = button(window, "Stand", "&Cash Out", kStand);
+    const PhaseCaptions opening = phaseCaptions(Phase::BeforeDeal);
+    w.stand = button(window, "Stand", opening.stand, kStand);
     w.output = displayLabel(window, "Output2", kOutput, s.display);
-    w.drawDeal = button(window, "DrawDeal", "&Deal", kDrawDeal);
+    w.drawDeal = button(window, "DrawDeal", opening.drawDeal, kDrawDeal);
 }
 
 void buildStatistics(QDialog& window, const Schemes& s, BoardWidgets& w) {

@@ -10,6 +10,7 @@
 #include <QString>
 
 // Marivale
+#include "play/board_captions.h"
 #include "play/game_variant.h"
 
 class QDialog;
@@ -32,7 +33,7 @@ struct BoardWidgets {
     QLabel* note{nullptr};
     std::array<QLabel*, 9> payCaptions{};
     std::array<QLineEdit*, 9> payBoxes{};
-    std::array<QRadioButton*, 8> purchaseOptions{};
+    std::array<QRadioButton*, kPurchaseOptionCount> purchaseOptions{};
     QPushButton* purchase{nullptr};
     QPushButton* help{nullptr};
     QPushButton* exit{nullptr};
@@ -42,8 +43,8 @@ struct BoardWidgets {
     QLineEdit* bet{nullptr};
     QLineEdit* win{nullptr};
     QLineEdit* last{nullptr};
-    std::array<QLabel*, 5> holdMarks{};
-    std::array<QPushButton*, 5> cards{};
+    std::array<QLabel*, kHandSize> holdMarks{};
+    std::array<QPushButton*, kHandSize> cards{};
     QPushButton* stand{nullptr};
     QPushButton* drawDeal{nullptr};
     QLabel* output{nullptr};

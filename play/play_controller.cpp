@@ -1,7 +1,6 @@
 #include "play/play_controller.h"
 
 // Standard library
-#include <array>
 #include <cmath>
 
 // Marivale
@@ -9,13 +8,11 @@
 #include "engine/hand_names.h"
 #include "engine/money_format.h"
 #include "engine/pay_table.h"
+#include "play/board_captions.h"
 
 namespace marivale {
 
 namespace {
-
-// Dollars added by each purchase option, by index.
-constexpr std::array<float, 8> kPurchaseAmounts{1000, 500, 100, 50, 20, 10, 5, 1};
 
 // The cash-out minimum.
 constexpr float kCashOutMinimum = 10.0f;
@@ -37,7 +34,7 @@ void PlayController::showMoney(Control control, float value, std::string_view pa
 // The five cards on the board as codes.
 HandCards PlayController::cards() const {
     HandCards codes{};
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         codes[p] = static_cast<CardCode>(std::lround(state_.Hand[p]));
     }
     return codes;
@@ -59,8 +56,8 @@ void PlayController::showNet(std::string_view pattern) {
 
 // Starts a visit: a positive net total becomes credits, the bet starts at one unit.
 void PlayController::load() {
-    state_.DrawPhase = 0;
-    for (int p = 0; p < 5; ++p) {
+    setPhase(state_, Phase::BeforeDeal);
+    for (int p = 0; p < kHandSize; ++p) {
         state_.Held[p] = kFalse;
     }
     state_.DoubleUpFactor = 0;
@@ -103,14 +100,14 @@ void PlayController::unload() {
 }
 
 void PlayController::drawDealClicked() {
-    switch (state_.DrawPhase) {
-    case 0:
+    switch (phaseOf(state_)) {
+    case Phase::BeforeDeal:
         deal();
         break;
-    case 1:
+    case Phase::Dealt:
         draw();
         break;
-    case 2:
+    case Phase::DoubleUpChoice:
         takeScore();
         break;
     default:
@@ -119,14 +116,14 @@ void PlayController::drawDealClicked() {
 }
 
 void PlayController::standClicked() {
-    switch (state_.DrawPhase) {
-    case 0:
+    switch (phaseOf(state_)) {
+    case Phase::BeforeDeal:
         cashOut();
         break;
-    case 1:
+    case Phase::Dealt:
         stand();
         break;
-    case 2:
+    case Phase::DoubleUpChoice:
         doubleUp();
         break;
     default:
@@ -135,7 +132,7 @@ void PlayController::standClicked() {
 }
 
 void PlayController::cardClicked(int position) {
-    if (state_.DrawPhase != 1 || position < 0 || position > 4) {
+    if (phaseOf(state_) != Phase::Dealt || position < 0 || position >= kHandSize) {
         return;
     }
     const Control mark = holdMark(position);
@@ -146,6 +143,14 @@ void PlayController::cardClicked(int position) {
         view_.setText(mark, kHoldText);
         state_.Held[position] = kTrue;
     }
+}
+
+// Enters the phase and gives the play buttons its captions.
+void PlayController::showPhase(Phase phase) {
+    setPhase(state_, phase);
+    const PhaseCaptions captions = phaseCaptions(phase);
+    view_.setText(Control::DrawDeal, captions.drawDeal);
+    view_.setText(Control::Stand, captions.stand);
 }
 
 void PlayController::setMoneyButtonsEnabled(bool enabled) {
@@ -172,16 +177,14 @@ void PlayController::deal() {
     setMoneyButtonsEnabled(false);
     DealCards(state_, variant_.game, random_);
     view_.ShowCards();
-    state_.DrawPhase = 1;
-    view_.setText(Control::DrawDeal, "D&raw");
-    view_.setText(Control::Stand, "&Stand");
+    showPhase(Phase::Dealt);
     view_.handDealt();
     observer_->dealt(cards(), state_.BetAmount, state_.Credits);
 }
 
 void PlayController::draw() {
-    std::array<bool, 5> held{};
-    for (int p = 0; p < 5; ++p) {
+    HandHolds held{};
+    for (int p = 0; p < kHandSize; ++p) {
         held[p] = isSet(state_.Held[p]);
     }
     view_.handPlayed(held);
@@ -271,36 +274,31 @@ void PlayController::settleAndShow() {
 }
 
 void PlayController::clearHolds() {
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         view_.setText(holdMark(p), "");
     }
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         state_.Held[p] = kFalse;
     }
 }
 
 void PlayController::endHand() {
-    state_.DrawPhase = 0;
-    view_.setText(Control::DrawDeal, "&Deal");
-    view_.setText(Control::Stand, "&Cash Out");
+    showPhase(Phase::BeforeDeal);
     setMoneyButtonsEnabled(true);
     observer_->settled(state_.WinAmount, state_.Credits);
 }
 
 void PlayController::enterDoubleUp() {
-    state_.DrawPhase = 2;
-    view_.setText(Control::Stand, "&Double      Up");
-    view_.setText(Control::DrawDeal, "&Take Score");
+    showPhase(Phase::DoubleUpChoice);
     observer_->doubleUpOffered();
 }
 
 void PlayController::purchaseClicked() {
     const int option = view_.selectedPurchase();
-    if (state_.DrawPhase != 0 || option < 0 ||
-        option >= static_cast<int>(kPurchaseAmounts.size())) {
+    if (phaseOf(state_) != Phase::BeforeDeal || option < 0 || option >= kPurchaseOptionCount) {
         return;
     }
-    const float amount = kPurchaseAmounts[option];
+    const float amount = kPurchaseOptions[option].amount;
     state_.Credits = state_.Credits + amount;
     showMoney(Control::Credit, state_.Credits, pattern::kCredit);
     state_.TotalPurchased = state_.TotalPurchased + amount;
@@ -311,7 +309,7 @@ void PlayController::purchaseClicked() {
 
 void PlayController::betUpClicked() {
     const float highest = state_.PlayUnit * 20.0f;
-    if (state_.DrawPhase != 0 || !(highest > state_.BetAmount)) {
+    if (phaseOf(state_) != Phase::BeforeDeal || !(highest > state_.BetAmount)) {
         return;
     }
     state_.BetAmount = state_.BetAmount + state_.PlayUnit;
@@ -322,7 +320,7 @@ void PlayController::betUpClicked() {
 }
 
 void PlayController::betDnClicked() {
-    if (state_.DrawPhase != 0 || !(state_.BetAmount > state_.PlayUnit)) {
+    if (phaseOf(state_) != Phase::BeforeDeal || !(state_.BetAmount > state_.PlayUnit)) {
         return;
     }
     state_.BetAmount = state_.BetAmount - state_.PlayUnit;

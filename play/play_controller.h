@@ -50,6 +50,7 @@ private:
     void clearHolds();
     void endHand();
     void enterDoubleUp();
+    void showPhase(Phase phase);
     void setMoneyButtonsEnabled(bool enabled);
     void showMoney(Control control, float value, std::string_view pattern);
     void ShowPayTable();

@@ -4,7 +4,7 @@ namespace marivale {
 
 void applyStartupDefaults(GameState& state) {
     state.PlayUnit = 0.25f;
-    state.DrawPhase = 0;
+    setPhase(state, Phase::BeforeDeal);
 }
 
 } // namespace marivale

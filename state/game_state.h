@@ -37,7 +37,7 @@ struct GameState {
     float TotalPurchased{};
     float GameWinnings{};
     float NetWinLoss{};
-    std::uint8_t DrawPhase{};       // 0 before the deal, 1 dealt, 2 awaiting the Double Up choice
+    std::uint8_t DrawPhase{};       // a Phase
     std::int16_t DoubleUpEnabled{}; // flag
     std::int16_t DoubleUpFactor{};  // 0, or 1, 2, 4 ... while doubling
     std::int16_t BonusDue{};        // flag: the Treasure Trips hand earns the Treasure Hunt
@@ -45,6 +45,20 @@ struct GameState {
     float PlayUnit{};
     std::uint8_t HandRank{};
 };
+
+// The phases of a hand as DrawPhase holds them.
+enum class Phase : std::uint8_t {
+    BeforeDeal = 0,     // no hand in play: Deal and Cash Out
+    Dealt = 1,          // five cards dealt: holds, Draw and Stand
+    DoubleUpChoice = 2, // a paying hand waits: Take Score or Double Up
+};
+
+constexpr Phase phaseOf(const GameState& state) {
+    return static_cast<Phase>(state.DrawPhase);
+}
+constexpr void setPhase(GameState& state, Phase phase) {
+    state.DrawPhase = static_cast<std::uint8_t>(phase);
+}
 
 // Readers treat any nonzero 16-bit flag as true.
 constexpr bool isSet(std::int16_t flag) {

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 // Qt
-#include <QCheckBox>
 #include <QScreen>
 
 // Marivale
@@ -43,10 +42,14 @@ void BoardCompanions::toggleStrategy() {
         if (phaseOf(state_) == Phase::Dealt) {
             strategy_->handDealt();
         }
-        if (auto* trainer = strategy_->findChild<QCheckBox*>(QStringLiteral("Trainer"))) {
-            QObject::connect(trainer, &QCheckBox::toggled, &board_,
-                             [this](bool on) { stats_.setTrainerMode(on); });
-        }
+        strategy_->showTrainerTally(stats_.trainer(true));
+        QObject::connect(strategy_, &StrategyWindow::trainerSwitched, &board_,
+                         [this](bool on) { stats_.setTrainerMode(on); });
+        QObject::connect(strategy_, &StrategyWindow::holdJudged, &board_,
+                         [this](const HoldJudgement& judgement) {
+                             stats_.setLatestJudgement(judgement);
+                             strategy_->showTrainerTally(stats_.trainer(true));
+                         });
     }
     if (strategy_->isVisible()) {
         strategy_->hide();

@@ -182,13 +182,15 @@ void PlayController::deal() {
     observer_->dealt(cards(), state_.BetAmount, state_.Credits);
 }
 
+// Replaces the cards not held. The observer hears the holds before the view, so a judgement of
+// the hold made on the view's side finds the hand already played.
 void PlayController::draw() {
     HandHolds held{};
     for (int p = 0; p < kHandSize; ++p) {
         held[p] = isSet(state_.Held[p]);
     }
-    view_.handPlayed(held);
     observer_->held(held);
+    view_.handPlayed(held);
     DealCards(state_, variant_.game, random_);
     view_.ShowCards();
     const HandCards finalCards = cards();
@@ -199,8 +201,9 @@ void PlayController::draw() {
 }
 
 void PlayController::stand() {
-    view_.handPlayed({true, true, true, true, true});
-    observer_->held({true, true, true, true, true});
+    constexpr HandHolds standing{true, true, true, true, true};
+    observer_->held(standing);
+    view_.handPlayed(standing);
     const HandCards finalCards = cards();
     analysis_ = AnalyzeHand(state_, variant_.game);
     state_.HandRank = analysis_.code;

@@ -26,8 +26,8 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "play/stats/history_csv.h"
-#include "play/stats/hold_judge.h"
 #include "play/strategy/game_odds_cache.h"
+#include "play/strategy/hold_judgement.h"
 
 namespace marivale {
 
@@ -86,10 +86,7 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
 
 StatsWindow::~StatsWindow() {
     stats_.setListener({});
-    worker_.request_stop();
-    if (worker_.joinable()) {
-        worker_.join();
-    }
+    work_.stop();
 }
 
 void StatsWindow::showEvent(QShowEvent* event) {
@@ -163,17 +160,15 @@ void StatsWindow::startWork() {
         return;
     }
     working_ = true;
-    if (worker_.joinable()) {
-        worker_.join();
-    }
-    worker_ = std::jthread(
+    work_.start(
         [this, questions = std::move(questions), games = std::move(games)](std::stop_token stop) {
             std::vector<std::pair<std::size_t, HoldJudgement>> judged;
             for (const HoldQuestion& question : questions) {
                 if (stop.stop_requested()) {
                     return;
                 }
-                if (const auto judgement = judgeHold(question)) {
+                if (const auto judgement =
+                        judgeHold(question.game, question.dealt, question.holds, question.bet)) {
                     judged.emplace_back(question.index, *judgement);
                 }
             }

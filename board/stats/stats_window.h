@@ -9,12 +9,12 @@
 
 // Standard library
 #include <optional>
-#include <thread>
 
 // Qt
 #include <QWidget>
 
 // Marivale
+#include "play/background_job.h"
 #include "play/stats/session_stats.h"
 
 class QLabel;
@@ -66,7 +66,7 @@ private:
     QTableView* history_{nullptr};
 
     // Last member: stopped and joined first when the window goes.
-    std::jthread worker_{};
+    BackgroundJob work_{};
 };
 
 } // namespace marivale

@@ -51,6 +51,7 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
+    connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
@@ -268,7 +269,11 @@ void StrategyWindow::handPlayed(HandHolds held) {
 
 // The trainer judges by the board's own table, whatever table the window shows.
 void StrategyWindow::judge(unsigned played) {
-    trainer_->judge(*boardHandOdds_, *dealt_, played, state_.BetAmount);
+    emit holdJudged(trainer_->judge(*boardHandOdds_, *dealt_, played, state_.BetAmount));
+}
+
+void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
+    trainer_->showTally(summary);
 }
 
 void StrategyWindow::betChanged() {

@@ -23,7 +23,9 @@
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
-#include "play/strategy/background_job.h"
+#include "play/background_job.h"
+#include "play/stats/session_stats.h"
+#include "play/strategy/hold_judgement.h"
 #include "state/game_state.h"
 
 class QLabel;
@@ -46,6 +48,8 @@ public:
     void handPlayed(HandHolds held);
     // The pay table changed with the bet.
     void betChanged();
+    // The trainer's tally of the visit, as the statistics count it.
+    void showTrainerTally(const TrainerSummary& summary);
 
     // Shows every figure under another multiplier for a code (what the pay spin boxes do).
     void setMultiplier(int code, double multiplier);
@@ -60,6 +64,12 @@ public:
     const std::optional<odds::HandOdds>& handOdds() const { return handOdds_; }
     // True once the risk of ruin of the table on show is on show.
     bool riskReady() const;
+
+signals:
+    // Trainer mode was switched on or off.
+    void trainerSwitched(bool on);
+    // Trainer mode judged the hold of the hand dealt last, by the board's own pay table.
+    void holdJudged(const HoldJudgement& judgement);
 
 private:
     void buildLayout();

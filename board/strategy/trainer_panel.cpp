@@ -46,9 +46,10 @@ TrainerPanel::TrainerPanel(QWidget* parent) : QWidget(parent) {
         if (!on) {
             verdict_->clear();
         }
-        showTally();
+        tallyLabel_->setEnabled(on);
+        emit switched(on);
     });
-    showTally();
+    showTally(TrainerSummary{});
 }
 
 bool TrainerPanel::isOn() const {
@@ -63,26 +64,26 @@ void TrainerPanel::showChecking() {
     verdict_->setText(tr("Checking your hold\u2026"));
 }
 
-void TrainerPanel::judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played,
-                         float bet) {
-    const TrainerVerdict verdict = tally_.judge(odds, played, bet);
+HoldJudgement TrainerPanel::judge(const odds::HandOdds& odds, const HandCards& dealt,
+                                  unsigned played, float bet) {
+    const HoldJudgement verdict = judgeHold(odds, played, bet);
     if (verdict.mistake) {
         verdict_->setText(
             tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
                "It cost %5.")
-                .arg(heldHtml(dealt, verdict.played), QString::number(verdict.playedReturn, 'f', 4),
+                .arg(heldHtml(dealt, played), QString::number(verdict.playedReturn, 'f', 4),
                      heldHtml(dealt, verdict.best), QString::number(verdict.bestReturn, 'f', 4),
                      moneyText(verdict.cost)));
     } else {
         verdict_->setText(
             tr("Best hold played (%1 bets).").arg(QString::number(verdict.playedReturn, 'f', 4)));
     }
-    showTally();
+    return verdict;
 }
 
-void TrainerPanel::showTally() {
+void TrainerPanel::showTally(const TrainerSummary& summary) {
     tallyLabel_->setText(
-        tr("Mistakes: %1   Cost: %2").arg(tally_.mistakes()).arg(moneyText(tally_.cost())));
+        tr("Mistakes: %1   Cost: %2").arg(summary.mistakes).arg(moneyText(summary.cost)));
     tallyLabel_->setEnabled(trainer_->isChecked());
 }
 

@@ -1,15 +1,15 @@
 #pragma once
 
-// Trainer mode in the Strategy window: the switch, the session's tally of weaker holds and their
-// cost, and the verdict on the last hold the player used.
+// Trainer mode in the Strategy window: the switch, the verdict on the last hold the player used,
+// and the visit's tally of weaker holds and their cost, which the statistics keep.
 
 // Qt
 #include <QWidget>
 
 // Marivale
-#include "board/strategy/hold_table.h"
 #include "engine/odds/hold_odds.h"
-#include "play/strategy/trainer.h"
+#include "play/stats/session_stats.h"
+#include "play/strategy/hold_judgement.h"
 
 class QCheckBox;
 class QLabel;
@@ -25,13 +25,16 @@ public:
     void clearVerdict();
     // The hold came before its odds: the verdict follows once they are worked out.
     void showChecking();
-    // Judges the hold `played` (mask over board positions) of the dealt cards at a bet.
-    void judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played, float bet);
+    // Judges the hold `played` (mask over board positions) of the dealt cards at a bet and
+    // shows the verdict.
+    HoldJudgement judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played,
+                        float bet);
+    void showTally(const TrainerSummary& summary);
+
+signals:
+    void switched(bool on);
 
 private:
-    void showTally();
-
-    TrainerTally tally_{};
     QCheckBox* trainer_{nullptr};
     QLabel* verdict_{nullptr};
     QLabel* tallyLabel_{nullptr};

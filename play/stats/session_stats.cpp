@@ -238,6 +238,12 @@ void SessionStats::setJudgement(std::size_t index, const HoldJudgement& judgemen
     changed();
 }
 
+void SessionStats::setLatestJudgement(const HoldJudgement& judgement) {
+    if (!history_.empty()) {
+        setJudgement(history_.size() - 1, judgement);
+    }
+}
+
 TrainerSummary SessionStats::trainer(bool visitOnly) const {
     TrainerSummary summary;
     for (const HandRecord& hand : history_) {

@@ -17,20 +17,12 @@
 // Marivale
 #include "engine/odds/outcome.h"
 #include "play/hand_observer.h"
+#include "play/strategy/hold_judgement.h"
 
 namespace marivale {
 
 // How the Double Up choice of a paying hand ended.
 enum class DoubleUpResult : std::uint8_t { NotOffered, TookScore, NoGuess, Won, Lost };
-
-// The best hold of a dealt hand, and what the hold the player made gave away.
-struct HoldJudgement {
-    unsigned best{0};         // mask over board positions
-    double bestReturn{0.0};   // in bets
-    double playedReturn{0.0}; // in bets
-    float cost{0.0f};         // dollars at the hand's bet; 0 when the hold was as good as the best
-    bool mistake{false};      // the hold returns less than the best
-};
 
 struct HandRecord {
     int number{0}; // 1 for the run's first hand
@@ -139,6 +131,8 @@ public:
     const std::vector<HandRecord>& history() const { return history_; }
     std::vector<HoldQuestion> unjudged() const;
     void setJudgement(std::size_t index, const HoldJudgement& judgement);
+    // The Strategy window's judgement of the hold of the hand dealt last.
+    void setLatestJudgement(const HoldJudgement& judgement);
     // The mistakes of trainer mode, in the visit or over the run.
     TrainerSummary trainer(bool visitOnly) const;
 

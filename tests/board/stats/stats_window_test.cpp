@@ -11,6 +11,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
+#include <QLabel>
 #include <QFile>
 #include <QScatterSeries>
 #include <QTableView>
@@ -212,7 +213,8 @@ void StatsWindowTest::runFiguresOutliveABoard() {
     QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
 }
 
-// Hands played while the Strategy window's trainer mode is on count their mistakes and cost.
+// Hands played while the Strategy window's trainer mode is on count their mistakes and cost, and
+// the Strategy window shows the visit's tally the statistics keep.
 void StatsWindowTest::trainerModeCountsMistakes() {
     BoardFixture f(GameId::JacksOrBetter);
     f.buy(4);
@@ -227,6 +229,8 @@ void StatsWindowTest::trainerModeCountsMistakes() {
     QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
     QCOMPARE(summary(*window, SummaryRow::Mistakes, kVisitColumn), QStringLiteral("1"));
     QCOMPARE(summary(*window, SummaryRow::MistakeCost, kRunColumn), QStringLiteral("$1.67"));
+    QTRY_COMPARE(f.board->findChild<QLabel*>(QStringLiteral("TrainerTally"))->text(),
+                 QStringLiteral("Mistakes: 1   Cost: $1.67"));
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 // Marivale
-#include "play/stats/hold_judge.h"
+#include "play/strategy/hold_judgement.h"
 #include "play/stats/session_stats.h"
 #include "tests/support/fake_view.h"
 

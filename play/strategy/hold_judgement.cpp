@@ -1,8 +1,9 @@
-#include "play/stats/hold_judge.h"
+#include "play/strategy/hold_judgement.h"
 
 // Marivale
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
+#include "play/stats/session_stats.h"
 
 namespace marivale {
 namespace {
@@ -25,19 +26,19 @@ HoldJudgement judgeHold(const odds::HandOdds& odds, unsigned holds, float bet) {
     return judgement;
 }
 
-std::optional<HoldJudgement> judgeHold(const HoldQuestion& question) {
-    if (!odds::isValidDeal(deckSize(question.game), question.dealt)) {
+std::optional<HoldJudgement> judgeHold(GameId game, const HandCards& dealt, unsigned holds,
+                                       float bet) {
+    if (!odds::isValidDeal(deckSize(game), dealt)) {
         return std::nullopt;
     }
-    const odds::DrawTables& tables = odds::DrawTables::forGame(question.game);
-    const odds::HandOdds found =
-        odds::analyzeHolds(tables, question.dealt, odds::ownPayScale(question.game));
-    return judgeHold(found, question.holds, question.bet);
+    const odds::DrawTables& tables = odds::DrawTables::forGame(game);
+    return judgeHold(odds::analyzeHolds(tables, dealt, odds::ownPayScale(game)), holds, bet);
 }
 
 void judgeAll(SessionStats& stats) {
     for (const HoldQuestion& question : stats.unjudged()) {
-        if (const auto judgement = judgeHold(question)) {
+        if (const auto judgement =
+                judgeHold(question.game, question.dealt, question.holds, question.bet)) {
             stats.setJudgement(question.index, *judgement);
         }
     }

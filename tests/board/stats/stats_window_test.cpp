@@ -11,8 +11,8 @@
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
-#include <QLabel>
 #include <QFile>
+#include <QLabel>
 #include <QScatterSeries>
 #include <QTableView>
 #include <QTableWidget>

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 // Marivale
-#include "play/strategy/hold_judgement.h"
 #include "play/stats/session_stats.h"
+#include "play/strategy/hold_judgement.h"
 #include "tests/support/fake_view.h"
 
 namespace marivale {

@@ -24,11 +24,11 @@ using namespace marivale;
 namespace {
 
 // A repeatable set of deals for the hold benchmark.
-std::vector<std::array<CardCode, 5>> someDeals(GameId game, int count) {
+std::vector<HandCards> someDeals(GameId game, int count) {
     SeededRandomSource random(7);
-    std::vector<std::array<CardCode, 5>> deals;
+    std::vector<HandCards> deals;
     while (static_cast<int>(deals.size()) < count) {
-        std::array<CardCode, 5> deal{};
+        HandCards deal{};
         for (std::size_t i = 0; i < deal.size(); ++i) {
             bool fresh = false;
             while (!fresh) {

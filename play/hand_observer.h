@@ -15,9 +15,6 @@
 
 namespace marivale {
 
-using HandCards = std::array<CardCode, 5>;
-using HandHolds = HandHolds;
-
 class HandObserver {
 public:
     virtual ~HandObserver() = default;

@@ -84,7 +84,7 @@ HoldTable::HoldTable(QWidget* parent) : QTableWidget(odds::kHoldCount, kColumns,
 
 void HoldTable::setHeaderCards(const HandCards* dealt) {
     setHorizontalHeaderItem(kRankColumn, new QTableWidgetItem(QString()));
-    for (int p = 0; p < 5; ++p) {
+    for (int p = 0; p < kHandSize; ++p) {
         auto* header =
             new QTableWidgetItem(dealt ? cardFaceText((*dealt)[p]) : QStringLiteral("-"));
         if (dealt) {
@@ -133,12 +133,12 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
         rank->setData(kHeldRole, held);
         setItem(row, kRankColumn, rank);
         if (held == 0) {
-            setSpan(row, kFirstCardColumn, 1, 5);
+            setSpan(row, kFirstCardColumn, 1, kHandSize);
             auto* all = makeItem(tr("discard all five"), Qt::AlignCenter);
             all->setForeground(QColor(Qt::darkGray));
             setItem(row, kFirstCardColumn, all);
         }
-        for (int p = 0; p < 5 && held != 0; ++p) {
+        for (int p = 0; p < kHandSize && held != 0; ++p) {
             const bool kept = ((held >> p) & 1u) != 0;
             const CardCode card = dealt[p];
             auto* cell = makeItem(kept ? cardFaceText(card) : QString(), Qt::AlignCenter);

@@ -21,8 +21,8 @@ class HoldTable : public QTableWidget {
 public:
     static constexpr int kRankColumn = 0;
     static constexpr int kFirstCardColumn = 1;
-    static constexpr int kBetsColumn = 6;
-    static constexpr int kDollarsColumn = 7;
+    static constexpr int kBetsColumn = kFirstCardColumn + kHandSize;
+    static constexpr int kDollarsColumn = kBetsColumn + 1;
     // Each row's held mask (bit p: board position p kept), on its rank item.
     static constexpr int kHeldRole = Qt::UserRole;
 

@@ -16,7 +16,7 @@ namespace {
 using Counts = std::array<std::uint64_t, 11>;
 
 template <typename Visit> void forEveryHand(int deck, Visit&& visit) {
-    std::array<int, 5> h{};
+    HandCards h{};
     for (h[0] = 0; h[0] < deck; ++h[0])
         for (h[1] = h[0] + 1; h[1] < deck; ++h[1])
             for (h[2] = h[1] + 1; h[2] < deck; ++h[2])
@@ -25,7 +25,7 @@ template <typename Visit> void forEveryHand(int deck, Visit&& visit) {
                         visit(h);
 }
 
-void put(GameState& state, const std::array<int, 5>& cards) {
+void put(GameState& state, const HandCards& cards) {
     for (int p = 0; p < 5; ++p) {
         state.Hand[p] = static_cast<float>(cards[p]);
     }
@@ -52,7 +52,7 @@ TEST(Census, EveryHandOfEveryGame) {
         Counts counts{};
         std::uint64_t bonus = 0;
         GameState state;
-        forEveryHand(deckSize(row.game), [&](const std::array<int, 5>& cards) {
+        forEveryHand(deckSize(row.game), [&](const HandCards& cards) {
             put(state, cards);
             ++counts[AnalyzeHand(state, row.game).code];
             bonus += isSet(state.BonusDue) ? 1 : 0;

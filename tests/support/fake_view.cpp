@@ -1,6 +1,7 @@
 #include "tests/support/fake_view.h"
 
 // Marivale
+#include "play/board_captions.h"
 #include "tests/support/hand_text.h"
 
 namespace marivale::testing {
@@ -42,8 +43,9 @@ Table::Table(GameId game, float netWinLoss, float playUnit)
     state.PlayUnit = playUnit;
     state.NetWinLoss = netWinLoss;
     view.setText(Control::PLTitle, "Net Winnings");
-    view.setText(Control::DrawDeal, "&Deal");
-    view.setText(Control::Stand, "&Cash Out");
+    // The captions the board's design opens with.
+    view.setText(Control::DrawDeal, phaseCaptions(Phase::BeforeDeal).drawDeal);
+    view.setText(Control::Stand, phaseCaptions(Phase::BeforeDeal).stand);
     controller.load();
 }
 

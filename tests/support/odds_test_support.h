@@ -42,8 +42,6 @@ inline bool tablesAffordable(GameId game) {
     return kOptimisedBuild || facts(game).bonus != Bonus::None;
 }
 
-using Deal = std::array<CardCode, 5>;
-
 // Final hands by code, and by code among the hands that earn the Treasure Hunt.
 struct CodeCounts {
     std::array<std::int64_t, odds::kCodeSlots> all{};
@@ -52,11 +50,11 @@ struct CodeCounts {
     friend bool operator==(const CodeCounts&, const CodeCounts&) = default;
 };
 
-inline std::vector<Deal> randomDeals(GameId game, int count, std::uint64_t seed) {
+inline std::vector<HandCards> randomDeals(GameId game, int count, std::uint64_t seed) {
     SeededRandomSource random(seed);
-    std::vector<Deal> deals;
+    std::vector<HandCards> deals;
     while (static_cast<int>(deals.size()) < count) {
-        Deal deal{};
+        HandCards deal{};
         for (std::size_t i = 0; i < deal.size(); ++i) {
             do {
                 deal[i] = static_cast<CardCode>(random.next() * deckSize(game));
@@ -70,7 +68,7 @@ inline std::vector<Deal> randomDeals(GameId game, int count, std::uint64_t seed)
 
 // Keeps the held positions, fills the others with every possible draw in turn and classifies
 // each final hand with AnalyzeHand.
-inline CodeCounts bruteForceHold(GameId game, const Deal& deal, unsigned held) {
+inline CodeCounts bruteForceHold(GameId game, const HandCards& deal, unsigned held) {
     std::vector<CardCode> stock;
     for (CardCode card = 0; card < deckSize(game); ++card) {
         if (std::find(deal.begin(), deal.end(), card) == deal.end()) {

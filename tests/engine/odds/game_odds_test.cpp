@@ -197,7 +197,7 @@ TEST(DrawTables, OutcomesDoNotDependOnWhichSuitIsWhich) {
         const auto& tables = odds::DrawTables::forGame(game);
         const int deck = deckSize(game);
         std::int64_t differing = 0;
-        std::array<CardCode, 5> hand{};
+        HandCards hand{};
         for (hand[4] = 4; hand[4] < deck; ++hand[4])
             for (hand[3] = 3; hand[3] < hand[4]; ++hand[3])
                 for (hand[2] = 2; hand[2] < hand[3]; ++hand[2])
@@ -205,7 +205,7 @@ TEST(DrawTables, OutcomesDoNotDependOnWhichSuitIsWhich) {
                         for (hand[0] = 0; hand[0] < hand[1]; ++hand[0]) {
                             const int outcome = tables.handOutcome(hand);
                             for (const auto& renaming : kRenamings) {
-                                std::array<CardCode, 5> renamed{};
+                                HandCards renamed{};
                                 for (std::size_t i = 0; i < 5; ++i) {
                                     const CardCode card = hand[i];
                                     renamed[i] = card == kJoker ? card

@@ -21,7 +21,6 @@ namespace marivale {
 namespace {
 
 using testing::CodeCounts;
-using testing::Deal;
 
 // 9/6 Jacks or Better with the 800-for-a-royal of the maximum bet.
 const std::array<double, 9> kJacks96{800, 50, 25, 9, 6, 4, 3, 2, 1};
@@ -30,7 +29,7 @@ odds::PayScale jacks96() {
     return *odds::payScaleFromMultipliers(GameId::JacksOrBetter, kJacks96);
 }
 
-Deal dealFromText(std::string_view text) {
+HandCards dealFromText(std::string_view text) {
     return testing::cardsFromText(text);
 }
 
@@ -68,7 +67,7 @@ TEST(HoldOdds, KnownReturns) {
         SCOPED_TRACE(std::string(known.dealt));
         const auto& tables = odds::DrawTables::forGame(known.game);
         const auto scale = known.nineSix ? jacks96() : odds::ownPayScale(known.game);
-        const Deal deal = dealFromText(known.dealt);
+        const HandCards deal = dealFromText(known.dealt);
         const odds::HandOdds result = odds::analyzeHolds(tables, deal, scale);
         EXPECT_DOUBLE_EQ(result.holds[known.held].expectedReturn,
                          known.numerator / known.denominator);
@@ -101,7 +100,7 @@ TEST(HoldOdds, RankingRunsFromBestToWorstWithEveryHoldOnce) {
 TEST(HoldOdds, ValidDealsAreFiveDifferentCardsOfTheDeck) {
     struct Case {
         int deck;
-        Deal deal;
+        HandCards deal;
         bool valid;
     };
     const std::array<Case, 5> cases{{
@@ -139,7 +138,7 @@ double payOf(const CodeCounts& counts, const odds::PayScale& scale) {
     return paid / static_cast<double>(counts.draws);
 }
 
-void expectMatchesBruteForce(GameId game, const Deal& deal, int fewestHeld) {
+void expectMatchesBruteForce(GameId game, const HandCards& deal, int fewestHeld) {
     const auto& tables = odds::DrawTables::forGame(game);
     const auto scale = odds::ownPayScale(game);
     const odds::HandOdds result = odds::analyzeHolds(tables, deal, scale);
@@ -167,7 +166,7 @@ TEST_P(HoldOddsBruteForce, HoldsKeepingTwoOrMoreCards) {
         GTEST_SKIP() << "this game's tables: optimised builds only";
     }
     const int deals = testing::kOptimisedBuild ? 200 : 8;
-    for (const Deal& deal : testing::randomDeals(game, deals, 1000 + static_cast<int>(game))) {
+    for (const HandCards& deal : testing::randomDeals(game, deals, 1000 + static_cast<int>(game))) {
         expectMatchesBruteForce(game, deal, 2);
         if (HasFatalFailure()) {
             return;
@@ -184,17 +183,17 @@ TEST_P(HoldOddsBruteForce, EveryHoldOfAFewDeals) {
     // The game's wild cards and Threes in play, then plain random deals.
     constexpr std::array<std::string_view, 4> kWildAndBonusDeals{
         "3c 3d 5h Jk Kc", "2c 2d 9h Ts Jd", "Jk Ad 5c 9h Ks", "Ah Kh 7h 4h 9c"};
-    std::vector<Deal> deals;
+    std::vector<HandCards> deals;
     for (const std::string_view text : kWildAndBonusDeals) {
-        const Deal deal = dealFromText(text);
+        const HandCards deal = dealFromText(text);
         if (std::find(deal.begin(), deal.end(), kJoker) == deal.end() || hasJoker(game)) {
             deals.push_back(deal);
         }
     }
-    for (const Deal& deal : testing::randomDeals(game, 3, 2000 + static_cast<int>(game))) {
+    for (const HandCards& deal : testing::randomDeals(game, 3, 2000 + static_cast<int>(game))) {
         deals.push_back(deal);
     }
-    for (const Deal& deal : deals) {
+    for (const HandCards& deal : deals) {
         expectMatchesBruteForce(game, deal, 0);
         if (HasFatalFailure()) {
             return;

@@ -124,6 +124,7 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
         {"kept win", Path::Load, JB, 1234.5f, "$1,234.50", "Winnings"},
         {"kept quarter lost", Path::Load, JB, -0.25f, "-$0.25", "Losses"},
         {"kept big win", Path::Load, JB, 1.5e7f, "$15,000,000.00", "Winnings"},
+        {"kept a fraction of a cent lost", Path::Load, JB, -0.004f, "-$0.00", "Losses"},
         {"kept nothing", Path::Load, JB, 0.0f, "$0.00", ""},
         {"cleared loss", Path::Clear, JB, -0.25f, "$0.00", "Stats"},
         {"cleared win", Path::Clear, JB, 12.0f, "$0.00", "Stats"},

@@ -48,10 +48,12 @@ TotalKeeper::Loaded TotalKeeper::load() {
         }
         return loaded;
     case ReadStatus::Unreadable:
+        // Even a file that could be written is left alone: its total is not known.
         mayWrite_ = false;
-        loaded.warning =
-            tell("The file that keeps your total,\n" + file + "\ncannot be read or written (" +
-                 read.reason + "), so it is left as it is." + std::string(kPlayOnAtZero));
+        loaded.warning = tell(
+            "The file that keeps your total,\n" + file +
+            (read.writable ? "\ncan be written but not read (" : "\ncannot be read or written (") +
+            read.reason + "), so it is left as it is." + std::string(kPlayOnAtZero));
         return loaded;
     case ReadStatus::Missing:
     case ReadStatus::NotANumber:

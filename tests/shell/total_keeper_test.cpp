@@ -76,7 +76,9 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
         {"unreadable", [](const fs::path& f) { writeData(f, "250\r\n", 0); }, 0.0f,
          "cannot be read or written (Permission denied), so it is left as it is", nullptr, 0},
         {"write-only", [](const fs::path& f) { writeData(f, "250\r\n", 0200); }, 0.0f,
-         "cannot be read or written", nullptr, 0200},
+         "can be written but not read (Permission denied), so it is left as it is.\n\nYou can "
+         "play on; the total starts at $0.00",
+         nullptr, 0200},
         {"read-only", [](const fs::path& f) { writeData(f, "250\r\n", 0400); }, 250.0f,
          "can be read but not written, so it is left as it is.\n\nYou can play on from $250.00",
          "250\r\n", 0400},

@@ -77,6 +77,17 @@ TotalKeeper::Loaded TotalKeeper::load() {
 }
 
 std::string TotalKeeper::save(float total) {
+    std::string problem = write(total);
+    return problem.empty() ? problem : tell(std::move(problem));
+}
+
+std::string TotalKeeper::saveCheckpoint(float total) {
+    return write(total);
+}
+
+// Writes the total unless the file is left as it was found; the message when it could not be
+// written and nobody was told yet.
+std::string TotalKeeper::write(float total) const {
     if (!mayWrite_) {
         return {};
     }
@@ -84,9 +95,9 @@ std::string TotalKeeper::save(float total) {
     if (saved.saved || told_) {
         return {};
     }
-    return tell("Your total of " + FormatMoney(total, kTotalPattern) +
-                " could not be saved.\n\nThe file\n" + saved.file.string() +
-                "\ncould not be written (" + saved.reason + ").");
+    return "Your total of " + FormatMoney(total, kTotalPattern) +
+           " could not be saved.\n\nThe file\n" + saved.file.string() + "\ncould not be written (" +
+           saved.reason + ").";
 }
 
 } // namespace marivale

@@ -5,6 +5,7 @@
 
 // Qt
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -99,6 +100,7 @@ void TreasureHuntDialog::buildWindow() {
 
 void TreasureHuntDialog::load(GameState& state) {
     state_ = &state;
+    chosen_ = false;
     close_->hide();
     pay_->clear();
     show();
@@ -115,8 +117,19 @@ void TreasureHuntDialog::chooseChest() {
         return;
     }
     openChest(*state_, random_);
+    chosen_ = true;
     pay_->setText(moneyText(state_->BonusAmount, pattern::kBonus));
     close_->show();
+}
+
+// Escape closes the window only once a chest has been chosen, and never as a held key's repeat:
+// a key held from before the choice must not end the hunt as soon as one chest is open.
+void TreasureHuntDialog::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel) && (!chosen_ || event->isAutoRepeat())) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 } // namespace marivale

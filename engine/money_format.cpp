@@ -49,7 +49,8 @@ std::string FormatMoney(float value, std::string_view pattern) {
     // exact value.
     const double scaled = std::round(std::fabs(static_cast<double>(value)) * scale);
     std::string digits = wholeDigits(scaled);
-    const bool negative = value < 0.0f && scaled != 0.0;
+    // Any negative value keeps its sign, even one that rounds to no cents; -0 is not negative.
+    const bool negative = value < 0.0f;
 
     // At least one digit before the split into whole and decimals.
     if (digits.size() < decimals + 1) {

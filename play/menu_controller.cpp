@@ -15,6 +15,14 @@ constexpr std::string_view kCaptionAfterClear = "Stats";
 
 } // namespace
 
+float totalIfBoardClosed(const GameState& state) {
+    float winnings = state.GameWinnings;
+    if (state.Credits > 0.0f) {
+        winnings = winnings + state.Credits;
+    }
+    return state.NetWinLoss + (winnings - state.TotalPurchased);
+}
+
 MenuController::MenuController(GameState& state, MenuView& view, TotalStore& store)
     : state_(state), view_(view), store_(store) {}
 
@@ -42,6 +50,14 @@ bool MenuController::close() {
     }
     view_.closeOtherWindows();
     return true;
+}
+
+// Once the close has kept the total there is nothing left to keep.
+std::string MenuController::checkpoint() {
+    if (closing_) {
+        return {};
+    }
+    return store_.saveCheckpoint(visiting_ ? totalIfBoardClosed(state_) : state_.NetWinLoss);
 }
 
 // Any other index leaves the bet unit as it was.
@@ -72,7 +88,9 @@ void MenuController::helpClicked() {
 // program that is closing meanwhile does not show the menu again.
 void MenuController::gameClicked(GameId game) {
     view_.hideMenu();
+    visiting_ = true;
     view_.openBoard(game);
+    visiting_ = false;
     showTotal(variantFor(game).statCaptionAtZero);
     if (!unattended_) {
         view_.showMenu();

@@ -2,11 +2,12 @@
 
 // The main menu's rules: the bet unit of the Play Settings, the Double Up switch, the running
 // total with its frame caption on every path, the way into the boards, and the load and close
-// around the kept total. It reads and writes PlayUnit, DoubleUpEnabled and NetWinLoss of the
-// one GameState and draws through a MenuView.
+// around the kept total, and the session's checkpoints. It reads and writes PlayUnit,
+// DoubleUpEnabled and NetWinLoss of the one GameState and draws through a MenuView.
 
 // Standard library
 #include <array>
+#include <string>
 #include <string_view>
 
 // Marivale
@@ -35,6 +36,10 @@ inline constexpr std::array<PlayOption, 4> kPlayOptions{{
     {4, "$10.00 Game", 10.00f},
 }};
 
+// The running total that closing the open board now would leave: the credits cashed out and
+// the visit's winnings less its purchases joined to NetWinLoss, as the board's unload does.
+float totalIfBoardClosed(const GameState& state);
+
 class MenuController {
 public:
     MenuController(GameState& state, MenuView& view, TotalStore& store);
@@ -48,6 +53,10 @@ public:
     bool close();
     // From now on the menu is closing for a logout or a signal: nobody is there to answer.
     void closeUnattended() { unattended_ = true; }
+    // A checkpoint of the session: keeps the total that closing now would leave while play goes
+    // on, changing nothing in the game. The message for the error output when it could not be
+    // kept, otherwise empty.
+    std::string checkpoint();
 
     void playSettingClicked(int index);
     void statusBarClicked();
@@ -67,6 +76,7 @@ private:
     TotalStore& store_;
     bool unattended_{false};
     bool closing_{false};
+    bool visiting_{false}; // a board is open, its visit not yet in NetWinLoss
 };
 
 } // namespace marivale

@@ -1,7 +1,8 @@
 #pragma once
 
 // Where the main menu keeps the player's total between runs. The menu reads it once when it
-// loads and writes it once when it closes; whatever goes wrong comes back as one message.
+// loads and writes it when it closes, and at the session's checkpoints while play goes on;
+// whatever goes wrong comes back as one message.
 
 // Standard library
 #include <string>
@@ -23,6 +24,9 @@ public:
     // Keeps the total; the message for the player when it could not be kept and nobody was
     // told yet, otherwise empty.
     virtual std::string save(float total) = 0;
+    // Keeps the total while play goes on, as save() does; a message from here does not count
+    // as told, since nobody may be there to read it: the close still tells the player.
+    virtual std::string saveCheckpoint(float total) = 0;
 };
 
 } // namespace marivale

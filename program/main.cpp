@@ -22,7 +22,8 @@ int main(int argc, char* argv[]) {
     // The program ends when the main menu has run its close sequence, not when a board closes
     // while the menu is hidden.
     QApplication::setQuitOnLastWindowClosed(false);
-    // A logout, a shutdown or Ctrl+C closes the program as "E&xit" does, from the start on.
+    // A logout, a shutdown or Ctrl+C closes the program as "E&xit" does, from the start on; a
+    // checkpoint of the session keeps the total and play goes on.
     marivale::SignalBridge bridge;
     bridge.watchSessionManager(app);
 
@@ -33,8 +34,9 @@ int main(int argc, char* argv[]) {
     marivale::SessionStats stats{}; // the run's statistics, kept across every board visit
     marivale::MainMenu menu(state, marivale::programMenuHooks(state, random, stats));
     bool menuClosed = false;
-    QObject::connect(&menu, &marivale::MainMenu::closed, &app, [&menuClosed] {
+    QObject::connect(&menu, &marivale::MainMenu::closed, &app, [&menuClosed, &bridge] {
         menuClosed = true;
+        bridge.allowQuit();
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     });
     marivale::QuitSequence quit(menu, [&menu] { menu.close(); });
@@ -43,6 +45,8 @@ int main(int argc, char* argv[]) {
         quit.start();
     };
     QObject::connect(&bridge, &marivale::SignalBridge::closeRequested, &app, closeUnattended);
+    QObject::connect(&bridge, &marivale::SignalBridge::checkpointRequested, &menu,
+                     &marivale::MainMenu::checkpoint);
     if (bridge.requested()) {
         closeUnattended();
     }

@@ -202,6 +202,18 @@ void MainMenu::closeUnattended() {
     controller_.closeUnattended();
 }
 
+void MainMenu::checkpoint() {
+    const QString problem = text(controller_.checkpoint());
+    if (problem.isEmpty()) {
+        return;
+    }
+    if (hooks_.warn) {
+        hooks_.warn(problem);
+        return;
+    }
+    qWarning("%s", qPrintable(problem));
+}
+
 void MainMenu::setText(MenuText target, std::string_view shown) {
     switch (target) {
     case MenuText::WinLoss:

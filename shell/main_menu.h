@@ -51,6 +51,10 @@ public:
     // message about the data file goes to the error output instead of a window.
     void closeUnattended();
 
+    // A checkpoint of the session: keeps the total that closing now would leave while play goes
+    // on. Nobody may be there to answer, so a problem goes to the error output.
+    void checkpoint();
+
 signals:
     // The close sequence has run; the program may end.
     void closed();

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 // Qt
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -72,12 +73,27 @@ SignalBridge::~SignalBridge() {
 
 void SignalBridge::watchSessionManager(QGuiApplication& application) {
 #ifndef QT_NO_SESSIONMANAGER
-    // Nothing may wait for the player here: the close runs without questions.
+    // Nothing may wait for the player here: the checkpoint asks no questions.
     connect(&application, &QGuiApplication::commitDataRequest, this,
-            [this](QSessionManager&) { request(); });
-#else
-    Q_UNUSED(application);
+            [this](QSessionManager&) { commitData(); });
 #endif
+    application.installEventFilter(this);
+}
+
+void SignalBridge::commitData() {
+    if (!requested_) {
+        emit checkpointRequested();
+    }
+}
+
+// The session's end reaches the program as a request to quit, which would close the windows in
+// no particular order; until the program has closed itself it closes them as a signal does.
+bool SignalBridge::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Quit && watched == QCoreApplication::instance() && !quitAllowed_) {
+        request();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 // Empties the pipe, then asks for the close unless it was asked for already.

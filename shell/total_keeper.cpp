@@ -47,10 +47,12 @@ TotalKeeper::Loaded TotalKeeper::load() {
         }
         return loaded;
     case ReadStatus::Unreadable:
+        // Even a file that could be written is left alone: its total is not known.
         mayWrite_ = false;
-        loaded.warning =
-            tell("The file that keeps your total,\n" + file + "\ncannot be read or written (" +
-                 read.reason + "), so it is left as it is." + std::string(kPlayOnAtZero));
+        loaded.warning = tell(
+            "The file that keeps your total,\n" + file +
+            (read.writable ? "\ncan be written but not read (" : "\ncannot be read or written (") +
+            read.reason + "), so it is left as it is." + std::string(kPlayOnAtZero));
         return loaded;
     case ReadStatus::Missing:
     case ReadStatus::NotANumber:
@@ -74,6 +76,17 @@ TotalKeeper::Loaded TotalKeeper::load() {
 }
 
 std::string TotalKeeper::save(float total) {
+    std::string problem = write(total);
+    return problem.empty() ? problem : tell(std::move(problem));
+}
+
+std::string TotalKeeper::saveCheckpoint(float total) {
+    return write(total);
+}
+
+// Writes the total unless the file is left as it was found; the message when it could not be
+// written and nobody was told yet.
+std::string TotalKeeper::write(float total) const {
     if (!mayWrite_) {
         return {};
     }
@@ -81,9 +94,9 @@ std::string TotalKeeper::save(float total) {
     if (saved.saved || told_) {
         return {};
     }
-    return tell("Your total of " + FormatMoney(total, pattern::kTotal) +
-                " could not be saved.\n\nThe file\n" + saved.file.string() +
-                "\ncould not be written (" + saved.reason + ").");
+    return "Your total of " + FormatMoney(total, pattern::kTotal) +
+           " could not be saved.\n\nThe file\n" + saved.file.string() + "\ncould not be written (" +
+           saved.reason + ").";
 }
 
 } // namespace marivale

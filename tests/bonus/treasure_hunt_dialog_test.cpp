@@ -1,4 +1,10 @@
+// Standard library
+#include <cstdint>
+#include <vector>
+
 // Qt
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,6 +49,7 @@ private slots:
     void furtherChestsMultiplyAgain();
     void playWaitsUntilOpenChest();
     void closedWithoutAChoicePaysOneBet();
+    void escapeClosesOnlyAfterAChest();
 };
 
 void TreasureHuntTest::opensWithNothingShown() {
@@ -120,6 +127,47 @@ void TreasureHuntTest::closedWithoutAChoicePaysOneBet() {
     });
     hunt.dialog.play(hunt.state);
     QCOMPARE(hunt.state.BonusAmount, 3.0F);
+}
+
+// Escape, pressed or held on a chest, does nothing until a chest has been chosen; a fresh press
+// after that closes the window with the bonus as it stands. Whatever is left open is closed by
+// its close box.
+void TreasureHuntTest::escapeClosesOnlyAfterAChest() {
+    enum class Step : std::uint8_t { Escape, Held, Chest };
+    using enum Step;
+    const struct {
+        const char* name;
+        std::vector<Step> steps;
+        bool open; // still open after the steps
+        float bets;
+    } cases[] = {
+        {"Escape before a chest", {Escape}, true, 1.0F},
+        {"Escape held before a chest", {Escape, Held, Held, Held}, true, 1.0F},
+        {"Escape right after the first chest", {Chest, Escape}, false, 3.0F},
+        {"Escape held through the first chest", {Escape, Held, Chest, Held, Held}, true, 3.0F},
+        {"Escape after two chests", {Chest, Chest, Escape, Escape}, false, 9.0F},
+    };
+    for (const auto& c : cases) {
+        Hunt hunt(2.0F);
+        bool open = false;
+        QTimer::singleShot(0, &hunt.dialog, [&hunt, &c, &open] {
+            QWidget* chest = hunt.button("Tr2");
+            for (const Step step : c.steps) {
+                if (step == Chest) {
+                    hunt.choose("Tr2", 3);
+                } else {
+                    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(),
+                                    step == Held);
+                    QApplication::sendEvent(chest, &press);
+                }
+            }
+            open = hunt.dialog.isVisible();
+            hunt.dialog.close();
+        });
+        hunt.dialog.play(hunt.state);
+        QVERIFY2(open == c.open, c.name);
+        QVERIFY2(hunt.state.BonusAmount == c.bets * 2.0F, c.name);
+    }
 }
 
 QTEST_MAIN(TreasureHuntTest)

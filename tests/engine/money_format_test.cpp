@@ -50,7 +50,12 @@ TEST(FormatMoney, EveryPatternTheGameUses) {
         {6000.0f, "$#,##0.00", "$6,000.00"},
         {0.125f, "$##0.00", "$0.13"},
         {2.675f, "$##0.00", "$2.67"}, // the float just below 2.675
-        {-0.001f, "$#,###,##0.00", "$0.00"},
+        {-0.001f, "$#,###,##0.00", "-$0.00"},
+        {-0.004f, "$#,###,##0.00", "-$0.00"},
+        {-0.004f, "#,###,##0.00", "-0.00"},
+        {-0.0f, "$#,###,##0.00", "$0.00"},
+        {std::nanf(""), "$#,###,##0.00", "$0.00"},
+        {-std::nanf(""), "$##0.00", "$0.00"},
     };
     for (const MoneyCase& c : cases) {
         EXPECT_EQ(FormatMoney(c.value, c.pattern), c.text) << c.value << " " << c.pattern;
@@ -74,7 +79,7 @@ TEST(FormatMoney, HugeAmountsKeepEveryDigitAndTheirSign) {
         {123456.789f, "$#,###,##0.00", "$123,456.79"},
         {-99999.99f, "$##,##0.00", "-$99,999.99"},
         {1e-45f, "$#,###,##0.00", "$0.00"},
-        {-1e-45f, "$##0.00", "$0.00"},
+        {-1e-45f, "$##0.00", "-$0.00"},
     };
     for (const MoneyCase& c : cases) {
         EXPECT_EQ(FormatMoney(c.value, c.pattern), c.text) << c.value << " " << c.pattern;
@@ -98,7 +103,7 @@ TEST(FormatMoney, AgreesWithTheExactExpansionAcrossAllFloats) {
         }
         char expected[128];
         std::snprintf(expected, sizeof expected, "%.2f", std::fabs(static_cast<double>(value)));
-        const bool negative = value < 0.0f && std::string(expected) != "0.00";
+        const bool negative = value < 0.0f;
         ASSERT_EQ(FormatMoney(value, "$##0.00"), (negative ? "-$" : "$") + std::string(expected))
             << bits;
     }

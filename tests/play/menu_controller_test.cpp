@@ -2,6 +2,7 @@
 // caption on every path, the load and close around the kept total, and board visits.
 
 // Standard library
+#include <cstring>
 #include <functional>
 #include <map>
 #include <sstream>
@@ -14,6 +15,7 @@
 // Marivale
 #include "play/game_variant.h"
 #include "play/menu_controller.h"
+#include "tests/support/fake_view.h"
 
 namespace marivale {
 namespace {
@@ -54,8 +56,13 @@ struct Menu final : MenuView, TotalStore {
         log.push_back(record.str());
         return problem;
     }
+    std::string saveCheckpoint(float total) override {
+        checkpoints.push_back(total);
+        return problem;
+    }
 
     Log log{};
+    std::vector<float> checkpoints{};
     std::map<MenuText, std::string> texts{};
     std::function<void()> duringVisit{[] {
     }};
@@ -124,6 +131,7 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
         {"kept win", Path::Load, JB, 1234.5f, "$1,234.50", "Winnings"},
         {"kept quarter lost", Path::Load, JB, -0.25f, "-$0.25", "Losses"},
         {"kept big win", Path::Load, JB, 1.5e7f, "$15,000,000.00", "Winnings"},
+        {"kept a fraction of a cent lost", Path::Load, JB, -0.004f, "-$0.00", "Losses"},
         {"kept nothing", Path::Load, JB, 0.0f, "$0.00", ""},
         {"cleared loss", Path::Clear, JB, -0.25f, "$0.00", "Stats"},
         {"cleared win", Path::Clear, JB, 12.0f, "$0.00", "Stats"},
@@ -219,6 +227,73 @@ TEST(MenuController, AVisitHidesTheMenuUntilTheBoardCloses) {
         menu.controller.gameClicked(JB);
         EXPECT_EQ(menu.log, c.log);
         EXPECT_EQ(menu.text(MenuText::WinLoss), "-$5.00");
+    }
+}
+
+// A checkpoint keeps the total that closing now would leave and changes nothing: at the menu
+// the total as it stands, during a visit the total the board's unload will make of it (a
+// positive total moved into the credits when the board opened). Its problem is handed back,
+// never shown in a window.
+TEST(MenuController, ACheckpointKeepsWhatClosingNowWouldLeave) {
+    const struct {
+        const char* name;
+        bool visit;
+        float kept;
+        int purchase;     // the option bought on the board, or -1
+        const char* hand; // dealt and stood on at $0.25, or nullptr
+        bool cashOut;     // after the hand
+        float checkpoint;
+    } cases[] = {
+        {"at the menu", false, -3.75f, -1, nullptr, false, -3.75f},
+        {"a kept win in the credits", true, 35.5f, -1, nullptr, false, 35.5f},
+        {"a lost hand", true, 12.0f, 4, "2c 7d 9h 4s Jd", false, 11.75f},
+        {"cashed out after a lost hand", true, -5.0f, 4, "2c 7d 9h 4s Jd", true, -5.25f},
+        {"a pair waiting for Double Up", true, 0.0f, 6, "Ac Ad 9h 4s 2d", false, -0.25f},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Menu menu;
+        menu.open(c.kept);
+        menu.problem = "not kept";
+        std::array<unsigned char, sizeof(GameState)> before{};
+        const auto checkpoint = [&menu, &before] {
+            std::memcpy(before.data(), &menu.state, sizeof(GameState));
+            EXPECT_EQ(menu.controller.checkpoint(), "not kept");
+            EXPECT_EQ(std::memcmp(before.data(), &menu.state, sizeof(GameState)), 0);
+        };
+        if (c.visit) {
+            // The board's state becomes the menu's; its unload is what closing it would do.
+            menu.duringVisit = [&menu, &c, &checkpoint] {
+                testing::Table t(JB, menu.state.NetWinLoss);
+                t.state.DoubleUpEnabled = kTrue;
+                if (c.purchase >= 0) {
+                    t.buy(c.purchase);
+                }
+                if (c.hand != nullptr) {
+                    t.script(c.hand);
+                    t.controller.drawDealClicked();
+                    t.controller.standClicked();
+                }
+                if (c.cashOut) {
+                    t.controller.standClicked();
+                }
+                menu.state = t.state;
+                checkpoint();
+                t.controller.unload();
+                menu.state = t.state;
+            };
+            menu.controller.gameClicked(JB);
+        } else {
+            checkpoint();
+        }
+        EXPECT_EQ(menu.checkpoints, std::vector<float>{c.checkpoint});
+        EXPECT_EQ(menu.state.NetWinLoss, c.checkpoint) << "the close would keep another total";
+        for (const std::string& entry : menu.log) {
+            EXPECT_EQ(entry.rfind("warn", 0), std::string::npos) << entry;
+        }
+        EXPECT_TRUE(menu.controller.close());
+        EXPECT_EQ(menu.controller.checkpoint(), "") << "kept after the close";
+        EXPECT_EQ(menu.checkpoints.size(), 1U);
     }
 }
 

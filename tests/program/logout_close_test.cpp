@@ -1,7 +1,7 @@
 // Closing for a logout: a signal received by this very process goes through the signal bridge
 // and closes the windows from the top down as their close boxes would, so that a board with
 // Double Up open settles and folds its visit before the main menu writes the total. A second
-// signal changes nothing.
+// signal changes nothing. A checkpoint of the session writes the total and play goes on.
 
 // Standard library
 #include <csignal>
@@ -40,6 +40,8 @@ private slots:
     void signalClosesDoubleUpThenTheBoardThenTheMenu_data();
     void signalClosesDoubleUpThenTheBoardThenTheMenu();
     void signalClosesTheHelpScreenAndTheMenu();
+    void checkpointKeepsTheTotalAndPlayGoesOn_data();
+    void checkpointKeepsTheTotalAndPlayGoesOn();
 
 private:
     QByteArray dataFile() const;
@@ -55,13 +57,16 @@ using testing::visibleTopLevel;
 
 namespace {
 
-// The program's wiring: a signal marks the menu's close unattended and starts the sequence.
+// The program's wiring: a signal marks the menu's close unattended and starts the sequence; a
+// checkpoint goes to the menu.
 struct LogoutWiring {
     explicit LogoutWiring(MainMenu& menu) : quit(menu, [&menu] { menu.close(); }) {
         QObject::connect(&bridge, &SignalBridge::closeRequested, &menu, [&menu, this] {
             menu.closeUnattended();
             quit.start();
         });
+        QObject::connect(&bridge, &SignalBridge::checkpointRequested, &menu, &MainMenu::checkpoint);
+        bridge.watchSessionManager(*qGuiApp);
     }
     SignalBridge bridge;
     QuitSequence quit;
@@ -182,6 +187,64 @@ void LogoutCloseTest::signalClosesTheHelpScreenAndTheMenu() {
     QVERIFY(helpSeen);
     QVERIFY(visibleTopLevel("frmHelp") == nullptr);
     QCOMPARE(dataFile(), QByteArray("0\r\n"));
+}
+
+void LogoutCloseTest::checkpointKeepsTheTotalAndPlayGoesOn_data() {
+    QTest::addColumn<bool>("quitEvent");
+    QTest::newRow("then SIGTERM") << false;
+    QTest::newRow("then the session's end") << true;
+}
+
+// Jacks or Better at $1 from -12.5: $20 bought and a hand lost leave 19 credits. The session's
+// checkpoint writes -13.5, what closing the board now would leave, and changes nothing; play
+// goes on, and the end of the session, a SIGTERM or a request to quit, closes everything with
+// the next hand lost too: -14.5.
+void LogoutCloseTest::checkpointKeepsTheTotalAndPlayGoesOn() {
+    QFETCH(bool, quitEvent);
+    GameState state{};
+    applyStartupDefaults(state);
+    ScriptedRandomSource random;
+    for (const int code : {1, 19, 34, 42, 23, 2, 20, 35, 43, 25}) { // 2c 7d 9h 4s Jd, 3c 8d ...
+        random.pushIndex(code, 52);
+    }
+    SessionStats stats;
+    MainMenu menu(state, programMenuHooks(state, random, stats));
+    LogoutWiring wiring(menu);
+    QSignalSpy closed(&menu, &MainMenu::closed);
+    menu.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QTest::mouseClick(menu.findChild<QRadioButton*>("PSettings2"), Qt::LeftButton);
+
+    QByteArray atCheckpoint;
+    bool boardStayed = false;
+    QTimer::singleShot(0, [&] {
+        once("JBBoard", [&](QWidget& board) {
+            click(board, "Purchase");
+            click(board, "DrawDeal");
+            click(board, "Stand");
+            wiring.bridge.commitData();
+            QTest::qWait(50);
+            atCheckpoint = dataFile();
+            boardStayed = board.isVisible() && closed.count() == 0 && state.Credits == 19.0F &&
+                          state.NetWinLoss == -12.5F;
+            click(board, "DrawDeal");
+            click(board, "Stand");
+            if (quitEvent) {
+                QEvent quit(QEvent::Quit);
+                QCoreApplication::sendEvent(qApp, &quit);
+            } else {
+                std::raise(SIGTERM);
+            }
+        });
+    });
+    QTest::mouseClick(menu.findChild<QPushButton*>("JBBtn"), Qt::LeftButton);
+    QTRY_COMPARE(closed.count(), 1);
+    QCOMPARE(atCheckpoint, QByteArray("-13.5\r\n"));
+    QVERIFY(boardStayed);
+    QCOMPARE(dataFile(), QByteArray("-14.5\r\n"));
+    QVERIFY(!menu.isVisible());
+    wiring.bridge.commitData();
+    QCOMPARE(dataFile(), QByteArray("-14.5\r\n"));
 }
 
 } // namespace marivale

@@ -49,7 +49,7 @@ protected:
 };
 
 // One case: how the folder is prepared, what the load gives, and what the file holds after a
-// save of 42 at the close.
+// checkpoint of 41 and a save of 42 at the close.
 struct KeeperCase {
     const char* name;
     std::function<void(const fs::path&)> prepare;
@@ -65,7 +65,8 @@ void writeData(const fs::path& folder, const char* text, mode_t mode) {
     ::chmod((folder / "mpdata.dat").c_str(), mode);
 }
 
-// Runs each case as an ordinary user: load, close, and whether anyone was told a second time.
+// Runs each case as an ordinary user: load, checkpoint, close, and whether anyone was told a
+// second time.
 TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
     const KeeperCase cases[] = {
         {"missing file", [](const fs::path&) {}, 0.0f, "", "42\r\n", 0644, "0\r\n"},
@@ -76,7 +77,9 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
         {"unreadable", [](const fs::path& f) { writeData(f, "250\r\n", 0); }, 0.0f,
          "cannot be read or written (Permission denied), so it is left as it is", nullptr, 0},
         {"write-only", [](const fs::path& f) { writeData(f, "250\r\n", 0200); }, 0.0f,
-         "cannot be read or written", nullptr, 0200},
+         "can be written but not read (Permission denied), so it is left as it is.\n\nYou can "
+         "play on; the total starts at $0.00",
+         nullptr, 0200},
         {"read-only", [](const fs::path& f) { writeData(f, "250\r\n", 0400); }, 250.0f,
          "can be read but not written, so it is left as it is.\n\nYou can play on from $250.00",
          "250\r\n", 0400},
@@ -112,6 +115,7 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
                 std::ifstream in("mpdata.dat", std::ios::binary);
                 EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), c.atLoad);
             }
+            EXPECT_EQ(keeper.saveCheckpoint(41.0f), "") << "told twice";
             EXPECT_EQ(keeper.save(42.0f), "") << "told twice";
             struct stat after {};
             const bool exists = ::lstat("mpdata.dat", &after) == 0;
@@ -121,6 +125,7 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
                 if (existed) {
                     EXPECT_EQ(after.st_ino, before.st_ino);
                     EXPECT_EQ(after.st_mode, before.st_mode);
+                    EXPECT_EQ(after.st_size, before.st_size);
                     EXPECT_EQ(after.st_mtime, before.st_mtime);
                 }
             } else {
@@ -137,16 +142,21 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
     }
 }
 
-// A save that fails at the close, with nothing said at the load, is told once.
+// A save that fails at the close, with nothing said at the load, is told once; one that fails
+// at a checkpoint is reported each time and still told at the close.
 TEST_F(TotalKeeperTest, AFailedCloseIsToldWithTheTotalAndThePath) {
     TotalKeeper keeper;
     EXPECT_EQ(keeper.load().warning, "");
     fs::remove(folder_ / "mpdata.dat");
     fs::create_directory(folder_ / "mpdata.dat");
+    const std::string reported = keeper.saveCheckpoint(-20.0f);
+    EXPECT_EQ(keeper.saveCheckpoint(-20.0f), reported);
     const std::string told = keeper.save(-20.0f);
+    EXPECT_EQ(told, reported);
     EXPECT_NE(told.find("Your total of -$20.00 could not be saved."), std::string::npos) << told;
     EXPECT_NE(told.find((folder_ / "mpdata.dat").string()), std::string::npos) << told;
     EXPECT_EQ(keeper.save(-20.0f), "");
+    EXPECT_EQ(keeper.saveCheckpoint(-20.0f), "");
 }
 
 // Started from a folder that has since been deleted: one message, play from 0, a quiet close.

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the Debian package from a built tree and checks what a player's apt would get: the
 # game and its launcher in /usr/games, the pictures and bell, the icons, a menu entry that names
-# its launcher by full path, valid AppStream metainfo, and the declared dependencies.
+# its launcher by full path, valid AppStream metainfo, the copyright file and the declared dependencies.
 set -euo pipefail
 build="$1"
 out="$(mktemp -d)"
@@ -23,6 +23,7 @@ for program in marivale-poker marivale-poker-launch; do
 done
 check "pictures" "[ \$(ls '$data/'*.gif | wc -l) -eq 62 ]"
 check "bell" "[ -f '$data/bell.wav' ]"
+check "copyright" "grep -q '^License: Expat' '$root/share/doc/marivale-poker/copyright'"
 check "icons" "[ -f '$root/share/icons/hicolor/scalable/apps/marivale-poker.svg' ]"
 check "menu entry names its launcher by full path" \
     "grep -qx 'Exec=/usr/games/marivale-poker-launch' '$root/share/applications/marivale-poker.desktop'"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds the Debian package from a built tree and checks what a player's apt would get: the
 # game and its launcher in /usr/games, the pictures and bell, the icons, a menu entry that names
-# its launcher by full path, valid AppStream metainfo, the copyright file and the declared dependencies.
+# its launcher by full path, valid AppStream metainfo, the copyright file and changelog, and the
+# declared dependencies.
 set -euo pipefail
 build="$1"
 out="$(mktemp -d)"
@@ -24,6 +25,7 @@ done
 check "pictures" "[ \$(ls '$data/'*.gif | wc -l) -eq 62 ]"
 check "bell" "[ -f '$data/bell.wav' ]"
 check "copyright" "grep -q '^License: Expat' '$root/share/doc/marivale-poker/copyright'"
+check "changelog" "zcat '$root/share/doc/marivale-poker/changelog.Debian.gz' | grep -q '^marivale-poker ('"
 check "icons" "[ -f '$root/share/icons/hicolor/scalable/apps/marivale-poker.svg' ]"
 check "menu entry names its launcher by full path" \
     "grep -qx 'Exec=/usr/games/marivale-poker-launch' '$root/share/applications/marivale-poker.desktop'"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the Debian package from a built tree and checks what a player's apt would get: the
 # game and its launcher in /usr/games, the pictures and bell, the icons, a menu entry that names
-# its launcher by full path, valid AppStream metainfo, the copyright file and changelog, and the
-# declared dependencies.
+# its launcher by full path, valid AppStream metainfo, the manual pages, the copyright file and
+# changelog, and the declared dependencies.
 set -euo pipefail
 build="$1"
 out="$(mktemp -d)"
@@ -21,6 +21,7 @@ root="$out/root/usr"
 data="$root/share/games/marivale-poker"
 for program in marivale-poker marivale-poker-launch; do
     check "$program in /usr/games" "[ -x '$root/games/$program' ]"
+    check "$program manual page" "gzip -t '$root/share/man/man6/$program.6.gz'"
 done
 check "pictures" "[ \$(ls '$data/'*.gif | wc -l) -eq 62 ]"
 check "bell" "[ -f '$data/bell.wav' ]"

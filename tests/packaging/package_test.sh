@@ -2,7 +2,7 @@
 # Builds the Debian package from a built tree and checks what a player's apt would get: the
 # game and its launcher in /usr/games, the pictures and bell, the icons, a menu entry that names
 # its launcher by full path, valid AppStream metainfo, the manual pages, the copyright file and
-# changelog, and the declared dependencies.
+# changelog, the declared dependencies, and no error or warning from lintian.
 set -euo pipefail
 build="$1"
 out="$(mktemp -d)"
@@ -38,5 +38,12 @@ depends="$(dpkg-deb -f "$deb" Depends)"
 for need in fonts-liberation2 libqt6widgets6 libqt6multimedia6 libqt6charts6; do
     check "depends on $need" "grep -q '$need' <<<'$depends'"
 done
+# Every lintian error and warning fails the test; so does a missing lintian.
+lint="$(lintian --tag-display-limit 0 "$deb" 2>&1 || true)"
+command -v lintian >/dev/null || lint="E: lintian is not installed"
+if grep -E '^[EW]: ' <<<"$lint"; then
+    echo "FAIL: lintian"
+    fail=1
+fi
 [ "$fail" -eq 0 ] && echo "package $(basename "$deb") is whole"
 exit "$fail"

@@ -4,7 +4,7 @@ set -euo pipefail
 packages=(cmake g++ make pkg-config clang-format libgtest-dev libbenchmark-dev
           qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-image-formats-plugins libgif-dev
           fonts-dejavu-core fonts-liberation2
-          xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream)
+          xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream lintian)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -15,14 +15,6 @@ constexpr std::string_view kCaptionAfterClear = "Stats";
 
 } // namespace
 
-float totalIfBoardClosed(const GameState& state) {
-    float winnings = state.GameWinnings;
-    if (state.Credits > 0.0f) {
-        winnings = winnings + state.Credits;
-    }
-    return state.NetWinLoss + (winnings - state.TotalPurchased);
-}
-
 MenuController::MenuController(GameState& state, MenuView& view, TotalStore& store)
     : state_(state), view_(view), store_(store) {}
 

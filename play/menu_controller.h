@@ -13,6 +13,7 @@
 // Marivale
 #include "engine/game.h"
 #include "play/menu_view.h"
+#include "play/play_controller.h"
 #include "play/total_store.h"
 #include "state/game_state.h"
 
@@ -35,10 +36,6 @@ inline constexpr std::array<PlayOption, 4> kPlayOptions{{
     {3, "$5.00 Game", 5.00f},
     {4, "$10.00 Game", 10.00f},
 }};
-
-// The running total that closing the open board now would leave: the credits cashed out and
-// the visit's winnings less its purchases joined to NetWinLoss, as the board's unload does.
-float totalIfBoardClosed(const GameState& state);
 
 class MenuController {
 public:

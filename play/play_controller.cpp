@@ -23,6 +23,14 @@ constexpr std::string_view kCashOutRefused = "Credits Must Be > $10.00 to Cash O
 
 } // namespace
 
+float totalIfBoardClosed(const GameState& state) {
+    float winnings = state.GameWinnings;
+    if (state.Credits > 0.0f) {
+        winnings = winnings + state.Credits;
+    }
+    return state.NetWinLoss + (winnings - state.TotalPurchased);
+}
+
 PlayController::PlayController(const GameVariant& variant, GameState& state, RandomSource& random,
                                BoardView& view)
     : variant_(variant), state_(state), random_(random), view_(view) {}
@@ -88,13 +96,14 @@ void PlayController::load() {
 
 // Ends a visit: remaining credits are cashed out and the visit's net joins the running total.
 void PlayController::unload() {
+    const float total = totalIfBoardClosed(state_);
     float cashed = 0.0f;
     if (state_.Credits > 0.0f) {
         cashed = state_.Credits;
         state_.GameWinnings = state_.GameWinnings + state_.Credits;
         state_.Credits = 0.0f;
     }
-    state_.NetWinLoss = state_.NetWinLoss + (state_.GameWinnings - state_.TotalPurchased);
+    state_.NetWinLoss = total;
     view_.bell(BellCommand::Close);
     observer_->visitEnded(cashed);
 }

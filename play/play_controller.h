@@ -14,6 +14,10 @@
 
 namespace marivale {
 
+// The running total that closing the open board now would leave: the credits cashed out and
+// the visit's winnings less its purchases joined to NetWinLoss, as the board's unload does.
+float totalIfBoardClosed(const GameState& state);
+
 class PlayController {
 public:
     PlayController(const GameVariant& variant, GameState& state, RandomSource& random,

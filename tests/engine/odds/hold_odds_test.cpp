@@ -94,21 +94,11 @@ TEST(HoldOdds, RankingRunsFromBestToWorstWithEveryHoldOnce) {
 }
 
 TEST(HoldOdds, ValidDealsAreFiveDifferentCardsOfTheDeck) {
-    struct Case {
-        int deck;
-        HandCards deal;
-        bool valid;
-    };
-    const std::array<Case, 5> cases{{
-        {52, {0, 1, 2, 3, 51}, true},
-        {52, {0, 1, 2, 3, 52}, false}, // no joker in a 52-card deck
-        {53, {0, 1, 2, 3, 52}, true},
-        {53, {7, 1, 2, 7, 52}, false}, // the same card twice
-        {52, {-1, 1, 2, 3, 4}, false},
-    }};
-    for (const Case& c : cases) {
-        EXPECT_EQ(odds::isValidDeal(c.deck, c.deal), c.valid) << c.deal[0] << ' ' << c.deal[4];
-    }
+    EXPECT_TRUE(odds::isValidDeal(52, HandCards{0, 1, 2, 3, 51}));
+    EXPECT_FALSE(odds::isValidDeal(52, HandCards{0, 1, 2, 3, 52})); // no joker in a 52-card deck
+    EXPECT_TRUE(odds::isValidDeal(53, HandCards{0, 1, 2, 3, 52}));
+    EXPECT_FALSE(odds::isValidDeal(53, HandCards{7, 1, 2, 7, 52})); // the same card twice
+    EXPECT_FALSE(odds::isValidDeal(52, HandCards{-1, 1, 2, 3, 4}));
 }
 
 // The engine's counts of a hold, folded from outcome slots into codes.

@@ -156,20 +156,6 @@ TEST(DealClasses, CoverEveryDealOnce) {
     }
 }
 
-TEST(DrawTables, TreasureTripsBonusOutcomesAreTheHandsThatCanHoldThreeThrees) {
-    const auto& tables = odds::DrawTables::forGame(GameId::TreasureTrips);
-    std::vector<int> bonusCodes;
-    for (int slot = 0; slot < tables.outcomeCount(); ++slot) {
-        if (tables.outcome(slot).bonus) {
-            bonusCodes.push_back(tables.outcome(slot).code);
-        }
-    }
-    EXPECT_EQ(bonusCodes, (std::vector<int>{2, 5, 6, 9}));
-    if (testing::tablesAffordable(GameId::JokerWild)) {
-        EXPECT_EQ(odds::DrawTables::forGame(GameId::JokerWild).outcomeCount(), odds::kCodeSlots);
-    }
-}
-
 // A table of the player's needs one multiplier per row of the game, highest code first, and keeps
 // the Treasure Hunt's mean chest; the boards' own tables are judged by their returns above.
 TEST(PayScale, GivenMultipliers) {

@@ -36,7 +36,7 @@ private slots:
 
 private:
     std::unique_ptr<MainMenu> openMenu();
-    static void store(const std::array<QString, 4>& values);
+    static void store(const QStringList& values);
     static QStringList stored();
 
     QTemporaryDir config_{};
@@ -80,7 +80,7 @@ std::unique_ptr<MainMenu> PlacementTest::openMenu() {
     return menu;
 }
 
-void PlacementTest::store(const std::array<QString, 4>& values) {
+void PlacementTest::store(const QStringList& values) {
     QSettings settings("Vandrine", "Vandrine");
     settings.beginGroup("Settings");
     const std::array<const char*, 4> keys{"MainLeft", "MainTop", "MainWidth", "MainHeight"};
@@ -131,7 +131,7 @@ void PlacementTest::closeStoresThePlacementInTwips() {
 // from before, wherever the window was moved.
 void PlacementTest::unchangedOrMinimisedPlacementIsStoredUnchanged() {
     const QStringList placement{"1500", "1800", "6000", "4500"};
-    store({placement[0], placement[1], placement[2], placement[3]});
+    store(placement);
     for (int run = 0; run < 2; ++run) {
         auto menu = openMenu();
         menu->close();
@@ -194,7 +194,7 @@ void PlacementTest::storedPlacement() {
     QFETCH(QStringList, values);
     QFETCH(QRect, expected);
     if (!values.isEmpty()) {
-        store({values[0], values[1], values[2], values[3]});
+        store(values);
     }
     auto menu = openMenu();
     QCOMPARE(menu->frameGeometry(), expected);

@@ -17,7 +17,6 @@ namespace {
 using testing::Table;
 
 constexpr GameId JB = GameId::JacksOrBetter;
-constexpr GameId TT = GameId::TreasureTrips;
 
 std::string money(float value) {
     return std::to_string(static_cast<int>(value * 100.0f + 0.5f));
@@ -132,18 +131,6 @@ TEST(Observer, DoubleUpPathsAndTheFinalCards) {
         expected.insert(expected.end(), c.tail.begin(), c.tail.end());
         EXPECT_EQ(log.lines, expected) << c.what;
     }
-}
-
-TEST(Observer, TreasureHuntBonusComesBeforeTheSettlement) {
-    EventLog log;
-    Table t(TT, 0.0f, 1.0f, &log);
-    t.buy(4);
-    t.view.chests = {6};
-    t.hand("3s 3d 3h 4c Kd", 0x1f);
-    ASSERT_GE(log.lines.size(), 3u);
-    EXPECT_EQ(Lines(log.lines.end() - 3, log.lines.end()),
-              (Lines{"drawn 41 15 28 3 25 code 2 Three of a Kind", "bonus 600",
-                     "settled 700 credits 2600"}));
 }
 
 } // namespace

@@ -175,14 +175,5 @@ TEST(TreasureTrips, BonusHandIsSettledAtOnce) {
     }
 }
 
-TEST(Phases, ClicksInAnUnknownPhaseDoNothing) {
-    Table t(JB, 50.0f);
-    t.state.DrawPhase = 7;
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
-    EXPECT_EQ(t.state.Credits, 50.0f);
-    EXPECT_EQ(t.view.text(Control::Output2), "");
-}
-
 } // namespace
 } // namespace marivale

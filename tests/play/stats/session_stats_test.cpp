@@ -139,6 +139,7 @@ TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     EXPECT_TRUE(stats.unjudged().empty());
 }
 
+// The bonus is told before the hand is settled, so that it counts with its hand.
 TEST(Model, TreasureHuntFactors) {
     SessionStats stats;
     Table t(TT, 0.0f, 1.0f, &stats);
@@ -148,6 +149,7 @@ TEST(Model, TreasureHuntFactors) {
     t.view.chests = {3, 3};
     t.hand("3s 3d 3h 4c Kd", 0x1f);
     EXPECT_EQ(stats.visit().bonuses, 2);
+    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{26, 35}));
     EXPECT_DOUBLE_EQ(*stats.visit().averageBonusFactor(), 7.5);
     EXPECT_FLOAT_EQ(stats.history()[1].bonus, 9.0f);
     EXPECT_FLOAT_EQ(stats.visit().paid, 2.0f + 15.0f);

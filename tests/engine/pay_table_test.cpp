@@ -82,18 +82,5 @@ TEST(PayTable, CodeToPayoutField) {
     EXPECT_EQ(payoutFieldFor(GameId::TreasureTrips, 9), &GameState::PayoutFiveKind);
 }
 
-TEST(ComputePayouts, LeavesTheOtherGamesFieldsAlone) {
-    GameState state;
-    state.BetAmount = 1.0f;
-    ComputePayouts(state, GameId::JacksOrBetter);
-    state.BetAmount = 5.0f;
-    ComputePayouts(state, GameId::DeucesWild);
-    EXPECT_EQ(state.PayoutPair, 1.0f);
-    EXPECT_EQ(state.PayoutStraight, 4.0f);
-    EXPECT_EQ(state.PayoutTwoPair, 1.0f);
-    EXPECT_EQ(state.PayoutFlush, 5.0f);
-    EXPECT_EQ(state.PayoutFourDeuces, 1000.0f);
-}
-
 } // namespace
 } // namespace marivale

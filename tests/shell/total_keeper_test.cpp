@@ -40,10 +40,6 @@ protected:
         fs::permissions(folder_, fs::perms::owner_all, fs::perm_options::add, ignored);
         fs::remove_all(folder_, ignored);
     }
-    std::string content() const {
-        std::ifstream in(folder_ / "mpdata.dat", std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    }
     fs::path start_;
     fs::path folder_;
 };
@@ -63,6 +59,12 @@ struct KeeperCase {
 void writeData(const fs::path& folder, const char* text, mode_t mode) {
     std::ofstream(folder / "mpdata.dat", std::ios::binary) << text;
     ::chmod((folder / "mpdata.dat").c_str(), mode);
+}
+
+// What the data file of the current folder holds.
+std::string dataText() {
+    std::ifstream in("mpdata.dat", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 // Runs each case as an ordinary user: load, checkpoint, close, and whether anyone was told a
@@ -112,8 +114,7 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
                 EXPECT_NE(loaded.warning.find(c.warning), std::string::npos) << loaded.warning;
             }
             if (c.atLoad != nullptr) {
-                std::ifstream in("mpdata.dat", std::ios::binary);
-                EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), c.atLoad);
+                EXPECT_EQ(dataText(), c.atLoad);
             }
             EXPECT_EQ(keeper.saveCheckpoint(41.0f), "") << "told twice";
             EXPECT_EQ(keeper.save(42.0f), "") << "told twice";
@@ -129,8 +130,7 @@ TEST_F(TotalKeeperTest, EachDataFileIsKeptOrLeftAloneWithOneMessage) {
                     EXPECT_EQ(after.st_mtime, before.st_mtime);
                 }
             } else {
-                std::ifstream in("mpdata.dat", std::ios::binary);
-                EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), c.after);
+                EXPECT_EQ(dataText(), c.after);
             }
             if (c.modeAfter != 0) {
                 EXPECT_EQ(after.st_mode & 07777, c.modeAfter);

@@ -37,7 +37,7 @@ void FakeView::play(GameState& state) {
     }
 }
 
-Table::Table(GameId game, float netWinLoss, float playUnit)
+Table::Table(GameId game, float netWinLoss, float playUnit, HandObserver* observer)
     : controller(variantFor(game), state, random, view) {
     view.bind(state);
     state.PlayUnit = playUnit;
@@ -46,6 +46,7 @@ Table::Table(GameId game, float netWinLoss, float playUnit)
     // The captions the board's design opens with.
     view.setText(Control::DrawDeal, phaseCaptions(Phase::BeforeDeal).drawDeal);
     view.setText(Control::Stand, phaseCaptions(Phase::BeforeDeal).stand);
+    controller.setObserver(observer);
     controller.load();
 }
 
@@ -58,6 +59,22 @@ void Table::script(std::string_view cards) {
 void Table::buy(int option) {
     view.purchaseOption = option;
     controller.purchaseClicked();
+}
+
+void Table::hand(std::string_view dealt, unsigned holds, std::string_view drawn) {
+    script(dealt);
+    controller.drawDealClicked();
+    if (holds == 0x1fu) {
+        controller.standClicked();
+        return;
+    }
+    for (int p = 0; p < kHandSize; ++p) {
+        if ((holds >> p) & 1u) {
+            controller.cardClicked(p);
+        }
+    }
+    script(drawn);
+    controller.drawDealClicked();
 }
 
 } // namespace marivale::testing

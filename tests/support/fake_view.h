@@ -51,13 +51,18 @@ private:
     GameState* state_{nullptr};
 };
 
-// A controller on a fake view with a scripted source, loaded and ready.
+// A controller on a fake view with a scripted source, loaded and ready; an observer given
+// watches the visit from the load on.
 struct Table {
-    explicit Table(GameId game, float netWinLoss = 0.0f, float playUnit = 0.25f);
+    explicit Table(GameId game, float netWinLoss = 0.0f, float playUnit = 0.25f,
+                   HandObserver* observer = nullptr);
     // Queues the cards of the next deal or draw as text ("As Kd 3c 4h 5s"), one per position.
     void script(std::string_view cards);
     // Buys credits with the given option index.
     void buy(int option);
+    // Deals these cards, holds the positions in the mask and draws the drawn cards, or stands
+    // when every position is held.
+    void hand(std::string_view dealt, unsigned holds, std::string_view drawn = {});
 
     GameState state{};
     ScriptedRandomSource random{};

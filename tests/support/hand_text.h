@@ -22,12 +22,15 @@ inline HandCards cardsFromText(std::string_view text) {
     return *cards;
 }
 
-// Puts the five cards into Hand positions 0..4 in the order written.
-inline void putHand(GameState& state, std::string_view text) {
-    const HandCards cards = cardsFromText(text);
+// Puts the five cards into Hand positions 0..4 in the order given.
+inline void putHand(GameState& state, const HandCards& cards) {
     for (int p = 0; p < kHandSize; ++p) {
         state.Hand[p] = static_cast<float>(cards[p]);
     }
+}
+
+inline void putHand(GameState& state, std::string_view text) {
+    putHand(state, cardsFromText(text));
 }
 
 } // namespace marivale::testing

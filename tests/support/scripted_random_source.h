@@ -12,7 +12,8 @@
 
 namespace marivale {
 
-// Plays back the given values in order, then falls back to a seeded generator.
+// Plays back the given values in order, then falls back to a seeded generator; counts the
+// reseeds asked for.
 class ScriptedRandomSource final : public RandomSource {
 public:
     ScriptedRandomSource() = default;
@@ -24,12 +25,14 @@ public:
         }
         return fallback_.next();
     }
-    void reseedFromClock() override {}
+    void reseedFromClock() override { ++reseeds; }
 
     void push(double value) { values_.push_back(value); }
     // Queues the value that makes int(value * count) come out as index.
     void pushIndex(int index, int count) { push((index + 0.5) / count); }
     std::size_t remaining() const { return values_.size() - position_; }
+
+    int reseeds{0};
 
 private:
     std::vector<double> values_{};

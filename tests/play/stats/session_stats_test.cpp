@@ -18,38 +18,9 @@ constexpr GameId JB = GameId::JacksOrBetter;
 constexpr GameId DW = GameId::DeucesWild;
 constexpr GameId TT = GameId::TreasureTrips;
 
-// A table whose visits the model records from the load on. The table's own first visit is
-// closed unseen; each open() is a fresh visit.
-struct Recorded : Table {
-    Recorded(SessionStats& stats, GameId game, float playUnit = 1.0f)
-        : Table(game, 0.0f, playUnit) {
-        controller.unload();
-        state.NetWinLoss = 0.0f;
-        controller.setObserver(&stats);
-        controller.load();
-    }
-    // Deals the cards, holds the positions in the mask and draws these cards, or stands when
-    // every position is held.
-    void hand(const char* dealt, unsigned holds, const char* drawn = "") {
-        script(dealt);
-        controller.drawDealClicked();
-        if (holds == 0x1f) {
-            controller.standClicked();
-            return;
-        }
-        for (int p = 0; p < 5; ++p) {
-            if ((holds >> p) & 1u) {
-                controller.cardClicked(p);
-            }
-        }
-        script(drawn);
-        controller.drawDealClicked();
-    }
-};
-
 TEST(Model, AVisitOfScriptedHands) {
     SessionStats stats;
-    Recorded t(stats, JB);
+    Table t(JB, 0.0f, 1.0f, &stats);
     t.buy(4);                                            // $20
     t.hand("2h 5h 9h Jh Kd", 0b01111, "Ks Ks Ks Ks 3h"); // flush: pays 5
     t.hand("2c 5d 9h Js Kd", 0x1f);                      // nothing
@@ -114,13 +85,13 @@ TEST(Model, AVisitOfScriptedHands) {
 TEST(Model, TheRunOutlivesItsVisits) {
     SessionStats stats;
     {
-        Recorded jacks(stats, JB);
+        Table jacks(JB, 0.0f, 1.0f, &stats);
         jacks.buy(4);
         jacks.hand("2h 5h 9h Jh Kd", 0b01111, "Ks Ks Ks Ks 3h");
         jacks.hand("2c 5d 9h Js Kd", 0x1f);
         jacks.controller.unload();
     }
-    Recorded deuces(stats, DW, 0.25f);
+    Table deuces(DW, 0.0f, 0.25f, &stats);
     deuces.buy(4);
     deuces.hand("3c 5d 9h Js Kd", 0x1f);
     deuces.hand("2c 2d 2h 2s 7c", 0x1f); // four deuces
@@ -146,9 +117,12 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_DOUBLE_EQ(*expectedReturn(stats.games(), returns), 0.92);
 }
 
-TEST(Model, ClosingMidHandAbandonsIt) {
+// A refused deal or cash-out leaves no trace; closing mid-hand abandons the hand.
+TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     SessionStats stats;
-    Recorded t(stats, JB);
+    Table t(JB, 0.0f, 1.0f, &stats);
+    t.controller.drawDealClicked();
+    t.controller.standClicked();
     t.buy(4);
     t.script("2c 5d 9h Js Kd");
     t.controller.drawDealClicked();
@@ -158,21 +132,24 @@ TEST(Model, ClosingMidHandAbandonsIt) {
     EXPECT_FLOAT_EQ(stats.visit().bet, 1.0f);
     EXPECT_FLOAT_EQ(stats.visit().cashedOut, 19.0f);
     EXPECT_TRUE(stats.visitCredits().empty());
+    EXPECT_EQ(stats.visitMarks().size(), 1u); // the purchase
     ASSERT_EQ(stats.history().size(), 1u);
     EXPECT_FALSE(stats.history()[0].finished);
     EXPECT_FALSE(stats.history()[0].played);
     EXPECT_TRUE(stats.unjudged().empty());
 }
 
+// The bonus is told before the hand is settled, so that it counts with its hand.
 TEST(Model, TreasureHuntFactors) {
     SessionStats stats;
-    Recorded t(stats, TT);
+    Table t(TT, 0.0f, 1.0f, &stats);
     t.buy(4);
     t.view.chests = {6};
     t.hand("3s 3d 3h 4c Kd", 0x1f);
     t.view.chests = {3, 3};
     t.hand("3s 3d 3h 4c Kd", 0x1f);
     EXPECT_EQ(stats.visit().bonuses, 2);
+    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{26, 35}));
     EXPECT_DOUBLE_EQ(*stats.visit().averageBonusFactor(), 7.5);
     EXPECT_FLOAT_EQ(stats.history()[1].bonus, 9.0f);
     EXPECT_FLOAT_EQ(stats.visit().paid, 2.0f + 15.0f);
@@ -197,7 +174,7 @@ TEST(Costs, ExactCostOfEachHold) {
         {"Ac Ad Ah As 7c", 0b01111, true, 0b01111, 0.0},
     };
     SessionStats stats;
-    Recorded t(stats, JB, 0.25f);
+    Table t(JB, 0.0f, 0.25f, &stats);
     t.buy(4);
     for (const KnownCost& k : known) {
         stats.setTrainerMode(k.trainer);

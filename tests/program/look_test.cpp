@@ -5,7 +5,6 @@
 // environment (QT_SCALE_FACTOR), one test entry per factor.
 
 // Standard library
-#include <algorithm>
 #include <array>
 
 // Qt
@@ -14,15 +13,78 @@
 #include <QtTest>
 
 // Marivale
-#include "tests/program/look_support.h"
+#include "tests/support/board_fixture.h"
 #include "tests/support/legibility.h"
 #include "tests/support/test_support.h"
 #include "tests/support/text_fit.h"
+#include "ui/design_look.h"
 
 using namespace marivale;
 using namespace marivale::testing;
 
 namespace {
+
+// The stand-in for the main menu a board is opened from.
+struct MenuStandIn {
+    MenuStandIn() {
+        menu.setObjectName(QStringLiteral("frmMain"));
+        menu.resize(300, 200);
+        menu.show();
+    }
+    QWidget menu{};
+};
+
+// A visit to a board opened as the main menu opens it, with Double Up on.
+struct Visit : MenuStandIn, BoardFixture {
+    Visit(GameId g, float playUnit) : BoardFixture(g, 0.0f, playUnit, true, &menu) {}
+    // Deals the cards given as text ("2h 5h 9h Jh Kh").
+    void deal(const char* cards) {
+        script(cards);
+        click(QStringLiteral("DrawDeal"));
+    }
+    // A control's rectangle in the board's coordinates.
+    QRect placeOf(const QString& name) const {
+        QWidget* widget = find(name);
+        return {widget->mapTo(board.get(), QPoint(0, 0)), widget->size()};
+    }
+};
+
+// Collects every fault seen, each line naming where it was seen.
+class Faults {
+public:
+    void add(const QString& where, const QStringList& found) {
+        for (const QString& fault : found) {
+            lines_ << where + QStringLiteral(": ") + fault;
+        }
+    }
+    void expect(const QString& where, bool ok, const QString& what) {
+        if (!ok) {
+            lines_ << where + QStringLiteral(": ") + what;
+        }
+    }
+    // Every text of the window whole, readable and in the design face; with MARIVALE_SHOTS set
+    // to a directory, a picture of the window is saved there for a look.
+    void whole(const QString& where, QWidget& window) {
+        saveShot(window, where + QStringLiteral(".png"));
+        add(where, cutTexts(window));
+        add(where, illegibleTexts(window));
+        QList<QWidget*> controls = shownControls(window);
+        controls << &window;
+        for (const QWidget* control : controls) {
+            const QFont font = control->font();
+            expect(where, font.family() == QLatin1String(kDesignFamily) && font.pixelSize() > 0,
+                   control->objectName() + QStringLiteral(" is not in the design face"));
+        }
+    }
+    // The count and every fault, one a line, for the test's failure message.
+    QString report() const {
+        return QStringLiteral("%1 faults:\n").arg(lines_.size()) + lines_.join('\n');
+    }
+    bool empty() const { return lines_.isEmpty(); }
+
+private:
+    QStringList lines_{};
+};
 
 const QColor kBlack(0, 0, 0);
 const QColor kWhite(255, 255, 255);
@@ -42,13 +104,7 @@ const std::array<BoardLook, kGameCount> kLooks{{
     {GameId::JacksOrBetter, QColor(0, 128, 128), QColor(0, 192, 192)},
 }};
 
-const BoardLook& lookOf(GameId game) {
-    return *std::find_if(kLooks.begin(), kLooks.end(),
-                         [game](const BoardLook& look) { return look.game == game; });
-}
-
-void checkBoard(Visit& v, const QString& where, Faults& faults) {
-    const BoardLook& look = lookOf(v.game);
+void checkBoard(Visit& v, const BoardLook& look, const QString& where, Faults& faults) {
     QWidget& board = *v.board;
     faults.whole(where, board);
     const QColor ground = colourAt(board, QPoint(560, 350));
@@ -85,13 +141,8 @@ void checkHelp(QWidget& help, const QString& where, Faults& faults) {
     faults.whole(where, help);
     const QColor page = colourAt(help, QPoint(2, 2));
     faults.expect(where, page == kWhite, QStringLiteral("page is ") + page.name());
-    for (int n = 1; n <= 21; ++n) {
-        auto* label = help.findChild<QLabel*>(QStringLiteral("Label%1").arg(n));
-        faults.expect(where, label != nullptr && label->isVisible(),
-                      QStringLiteral("Label%1 missing").arg(n));
-        if (label == nullptr) {
-            continue;
-        }
+    // Every text black on the page; which texts there are is the help screen's own test.
+    for (const QLabel* label : help.findChildren<QLabel*>()) {
         const QRect place(label->mapTo(&help, QPoint(0, 0)), label->size());
         faults.expect(where, showsColour(help, place, kBlack, 40),
                       label->objectName() + QStringLiteral(" is not black"));
@@ -131,18 +182,19 @@ void checkStrategy(Visit& v, const QString& name, Faults& faults) {
     saveShot(*strategy, name + QStringLiteral(" Strategy.png"));
     faults.add(name + QStringLiteral(" Strategy"), illegibleTexts(*strategy));
     QTest::keyClick(v.board.get(), Qt::Key_F2);
+    faults.expect(name, !strategy->isVisible(), QStringLiteral("F2 did not close Strategy"));
 }
 
 // One visit to the board: its look, help, Strategy when asked, a Treasure Hunt where the board has
 // one, a won Double Up, and the board again after the hand.
-void visitBoard(GameId game, bool strategyToo, Faults& faults) {
-    Visit v(game, 1.0f);
+void visitBoard(const BoardLook& look, bool strategyToo, Faults& faults) {
+    Visit v(look.game, 1.0f);
     const QString name = v.board->objectName();
-    checkBoard(v, name, faults);
+    checkBoard(v, look, name, faults);
 
     bool seen = false;
-    whenModal(QStringLiteral("frmHelp"), [&](QWidget& help) {
-        seen = true;
+    answerModal([&](QWidget& help) {
+        seen = help.objectName() == QLatin1String("frmHelp");
         checkHelp(help, name + QStringLiteral(" frmHelp"), faults);
         clickIn(help, QStringLiteral("Command1"));
     });
@@ -155,37 +207,37 @@ void visitBoard(GameId game, bool strategyToo, Faults& faults) {
 
     v.click(QStringLiteral("POption4"));
     v.click(QStringLiteral("Purchase"));
-    if (lookOf(game).treasureHunt) {
+    if (look.treasureHunt) {
+        v.deal("3s 3d 3h Jk Kd");
         seen = false;
-        whenModal(QStringLiteral("TrTrip"), [&](QWidget& hunt) {
-            seen = true;
+        answerModal([&](QWidget& hunt) {
+            seen = hunt.objectName() == QLatin1String("TrTrip");
             checkTreasureHunt(hunt, name + QStringLiteral(" TrTrip"), faults);
             v.random.push(0.95); // the largest chest
             clickIn(hunt, QStringLiteral("Tr2"));
             checkTreasureHunt(hunt, name + QStringLiteral(" TrTrip after a chest"), faults);
             clickIn(hunt, QStringLiteral("TClose"));
         });
-        v.deal("3s 3d 3h Jk Kd");
         v.click(QStringLiteral("Stand"));
         faults.expect(name, seen, QStringLiteral("a bonus hand did not open TrTrip"));
     }
 
+    v.deal("2h 5h 9h Jh Kh");
+    v.click(QStringLiteral("Stand"));
+    faults.expect(name, v.find<QAbstractButton>("Stand")->text() == "&Double      Up",
+                  QStringLiteral("no Double Up after a Flush"));
     seen = false;
-    whenModal(QStringLiteral("frmDup"), [&](QWidget& dup) {
-        seen = true;
+    answerModal([&](QWidget& dup) {
+        seen = dup.objectName() == QLatin1String("frmDup");
         checkDoubleUp(dup, name + QStringLiteral(" frmDup"), faults);
         v.random.pushIndex(4, 52); // a Five
         clickIn(dup, QStringLiteral("Low"));
         checkDoubleUp(dup, name + QStringLiteral(" frmDup after a guess"), faults);
         clickIn(dup, QStringLiteral("RetBtn"));
     });
-    v.deal("2h 5h 9h Jh Kh");
-    v.click(QStringLiteral("Stand"));
-    faults.expect(name, v.find<QAbstractButton>("Stand")->text() == "&Double      Up",
-                  QStringLiteral("no Double Up after a Flush"));
     v.click(QStringLiteral("Stand"));
     faults.expect(name, seen, QStringLiteral("Stand did not open frmDup"));
-    checkBoard(v, name + QStringLiteral(" after the hand"), faults);
+    checkBoard(v, look, name + QStringLiteral(" after the hand"), faults);
 }
 
 // The widest amounts a board shows: the largest bet unit at the largest bet.
@@ -212,8 +264,8 @@ void LookTest::everyWindowFromItsBoard_data() {
     QTest::addColumn<int>("points");
     QTest::addColumn<QString>("locale");
     const QStringList families{QStringLiteral("DejaVu Serif"), QStringLiteral("DejaVu Sans")};
-    const QStringList locales{"C", "en_US", "en_GB", "de_DE", "fr_FR", "ja_JP", "ru_RU"};
-    // Every desktop font in one locale, and every locale with the largest font.
+    // Every desktop font in the C locale, and German numbers with the largest font.
+    const QStringList locales{"C", "de_DE"};
     for (const QString& family : families) {
         for (const int points : {9, 10, 11, 12}) {
             QTest::addRow("%s %d pt, C", qPrintable(family), points) << family << points << "C";
@@ -233,9 +285,9 @@ void LookTest::everyWindowFromItsBoard() {
     QLocale::setDefault(QLocale(locale));
     Faults faults;
     for (const BoardLook& look : kLooks) {
-        const GameId game = look.game;
-        visitBoard(game, points == 9 && locale == QLatin1String("C"), faults);
-        visitAtTheTopBet(game, faults);
+        // Strategy at the smallest font and in the locale whose numbers differ.
+        visitBoard(look, points == 9 || locale == QLatin1String("de_DE"), faults);
+        visitAtTheTopBet(look.game, faults);
     }
     QVERIFY2(faults.empty(), qPrintable(faults.report()));
 }

@@ -13,13 +13,13 @@
 namespace marivale::testing {
 
 BoardFixture::BoardFixture(GameId g, float netWinLoss, float playUnit, bool doubleUp,
-                           QWidget* parent)
+                           QWidget* parent, SessionStats* stats)
     : game(g) {
     state.PlayUnit = playUnit;
     state.NetWinLoss = netWinLoss;
     state.DoubleUpEnabled = doubleUp ? kTrue : kFalse;
-    board =
-        std::make_unique<GameBoard>(variantFor(game), state, random, programBoardWindows(), parent);
+    board = std::make_unique<GameBoard>(variantFor(game), state, random, programBoardWindows(),
+                                        parent, stats);
     board->show();
 }
 

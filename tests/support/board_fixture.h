@@ -3,13 +3,16 @@
 // A real board window on its own state and a scripted random source, with helpers to click its
 // controls by objectName and to answer the modal windows it opens.
 
+// Standard library
 #include <functional>
 #include <memory>
 
+// Qt
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QString>
 
+// Marivale
 #include "board/game_board.h"
 #include "program/program_windows.h"
 #include "state/game_state.h"
@@ -18,9 +21,11 @@
 namespace marivale::testing {
 
 struct BoardFixture {
-    // The board is a top-level window, or a window of the given parent as the main menu opens it.
+    // The board is a top-level window, or a window of the given parent as the main menu opens it;
+    // it records its hands in the given run's statistics, else in its own.
     explicit BoardFixture(GameId game, float netWinLoss = 0.0f, float playUnit = 0.25f,
-                          bool doubleUp = false, QWidget* parent = nullptr);
+                          bool doubleUp = false, QWidget* parent = nullptr,
+                          SessionStats* stats = nullptr);
     ~BoardFixture();
 
     template <typename W = QWidget> W* find(const QString& name) const {

@@ -49,6 +49,13 @@ double luminance(const QColor& colour) {
            0.0722 * channel(colour.blueF());
 }
 
+// The contrast ratio of two colours, 1 (alike) to 21 (black on white).
+double contrast(const QColor& a, const QColor& b) {
+    const double la = luminance(a);
+    const double lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
 } // namespace
 
 QStringList illegibleTexts(const QWidget& window) {
@@ -83,12 +90,6 @@ QStringList illegibleTexts(const QWidget& window) {
         }
     }
     return faults;
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double la = luminance(a);
-    const double lb = luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
 bool showsColour(QWidget& widget, const QRect& area, const QColor& colour, int tolerance) {

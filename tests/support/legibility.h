@@ -16,9 +16,6 @@ namespace marivale::testing {
 // Texts whose colour is too close to the colour drawn behind them (contrast ratio under 3).
 QStringList illegibleTexts(const QWidget& window);
 
-// The contrast ratio of two colours, 1 (alike) to 21 (black on white).
-double contrast(const QColor& a, const QColor& b);
-
 // Whether some pixel of the area (in the widget's coordinates) is within `tolerance` of the colour
 // in each channel; grabbed at the screen's scale.
 bool showsColour(QWidget& widget, const QRect& area, const QColor& colour, int tolerance = 24);

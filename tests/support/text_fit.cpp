@@ -7,14 +7,12 @@
 // Qt
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
-#include <QCheckBox>
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStatusBar>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTextDocument>
@@ -113,8 +111,6 @@ bool roomAndNeed(const QWidget& widget, QRect& room, QSize& need) {
         const QString text = shownText(button->text());
         if (qobject_cast<const QRadioButton*>(button) != nullptr) {
             room = style->subElementRect(QStyle::SE_RadioButtonContents, &option, button);
-        } else if (qobject_cast<const QCheckBox*>(button) != nullptr) {
-            room = style->subElementRect(QStyle::SE_CheckBoxContents, &option, button);
         } else {
             room = style->subElementRect(QStyle::SE_PushButtonContents, &option, button);
         }
@@ -157,14 +153,6 @@ bool roomAndNeed(const QWidget& widget, QRect& room, QSize& need) {
         room = style->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, box)
                    .intersected(box->rect());
         need = lineSize(metrics, shownText(box->title()));
-        return true;
-    }
-    if (const auto* bar = qobject_cast<const QStatusBar*>(&widget)) {
-        if (bar->currentMessage().isEmpty()) {
-            return false;
-        }
-        room = bar->contentsRect();
-        need = lineSize(metrics, bar->currentMessage());
         return true;
     }
     return false;

@@ -11,8 +11,8 @@ class QWidget;
 
 namespace marivale::testing {
 
-// Texts of labels, buttons, options, fields, frame titles and status panels that do not fit the
-// room their control gives them, or that a parent or a neighbour cuts off.
+// Texts of labels, buttons, options, fields and frame titles that do not fit the room their
+// control gives them, or that a parent or a neighbour cuts off.
 QStringList cutTexts(const QWidget& window);
 
 // The window's own controls that are shown, leaving out those of windows opened from it.

@@ -1,8 +1,7 @@
 // The statistics window on real boards: F3 opens it beside the board and it changes nothing,
 // its figures follow the hands, the chart has a point per hand with the purchases and cash-outs
-// marked, the history shows the newest hand first with the cost of its hold, the export reads
-// back with "." decimals under a comma locale (its columns are the history file's own tests'
-// part), and the run's figures outlive a board.
+// marked, trainer mode's mistakes and the history show the cost of each hold, the export reads
+// back under a comma locale, and the run's figures outlive a board.
 
 #include <QtTest>
 
@@ -81,9 +80,8 @@ class StatsWindowTest : public QObject {
 private slots:
     void f3OpensAWindowThatChangesNothing();
     void chartHasAPointPerHand();
-    void historyNewestFirstAndExportReadsBack();
+    void trainerAndHistoryShowTheCosts();
     void runFiguresOutliveABoard();
-    void trainerModeCountsMistakes();
     void textsWholeAndReadable();
 };
 
@@ -147,75 +145,11 @@ void StatsWindowTest::chartHasAPointPerHand() {
     QVERIFY(qobject_cast<QScatterSeries*>(purchases) != nullptr);
 }
 
-void StatsWindowTest::historyNewestFirstAndExportReadsBack() {
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    BoardFixture f(GameId::JacksOrBetter);
-    f.buy(4);
-    playHand(f, "As Ks Qs Js 2c"); // stands: gives up four to the royal
-    playHand(f, "Ac Ad Ah As 7c", 0b01111);
-    StatsWindow* window = openStats(*f.board);
-    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
-    auto* view = window->findChild<QTableView*>(QStringLiteral("HandHistory"));
-    const QAbstractItemModel* model = view->model();
-    QCOMPARE(model->rowCount(), 2);
-    QCOMPARE(model->index(0, HistoryModel::Number).data().toString(), QStringLiteral("2"));
-    QCOMPARE(model->index(0, HistoryModel::Result).data().toString(),
-             QStringLiteral("Four of a Kind"));
-    QCOMPARE(model->index(0, HistoryModel::Cost).data().toString(), QStringLiteral("$0.0000"));
-    QCOMPARE(model->index(1, HistoryModel::Cost).data().toString(), QStringLiteral("$1.6702"));
-    QCOMPARE(model->index(1, HistoryModel::Held).data().toString(),
-             model->index(1, HistoryModel::Dealt).data().toString());
-
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("history.csv"));
-    QVERIFY(window->exportTo(path));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList rows = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(rows.size(), 3);
-    QVERIFY(rows[0].startsWith(QStringLiteral("Hand,Visit,Game,Bet,Dealt,Held,Final,")));
-    QCOMPARE(rows[1], QStringLiteral("1,1,Jacks or Better,0.25,As Ks Qs Js 2c,As Ks Qs Js 2c,"
-                                     "As Ks Qs Js 2c,,0.00,,0.00,As Ks Qs Js,1.6702"));
-    QVERIFY(!window->exportTo(dir.filePath(QStringLiteral("missing/history.csv"))));
-    QLocale::setDefault(QLocale::c());
-}
-
-// A run-wide model handed to each board keeps counting across visits.
-void StatsWindowTest::runFiguresOutliveABoard() {
-    SessionStats stats;
-    GameState state{};
-    state.PlayUnit = 1.0f;
-    ScriptedRandomSource random;
-    const auto click = [](QWidget& board, const char* name) {
-        board.findChild<QAbstractButton*>(QString::fromLatin1(name))->click();
-    };
-    {
-        GameBoard jacks(variantFor(GameId::JacksOrBetter), state, random, programBoardWindows(),
-                        nullptr, &stats);
-        jacks.show();
-        click(jacks, "Purchase");
-        for (int hand = 0; hand < 2; ++hand) {
-            click(jacks, "DrawDeal");
-            click(jacks, "Stand");
-        }
-        openStats(jacks);
-    }
-    GameBoard deuces(variantFor(GameId::DeucesWild), state, random, programBoardWindows(), nullptr,
-                     &stats);
-    deuces.show();
-    click(deuces, "Purchase");
-    click(deuces, "DrawDeal");
-    click(deuces, "Stand");
-    StatsWindow* window = openStats(deuces);
-    QCOMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("1"));
-    QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
-    QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
-    QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
-}
-
 // Hands played while the Strategy window's trainer mode is on count their mistakes and cost, and
-// the Strategy window shows the visit's tally the statistics keep.
-void StatsWindowTest::trainerModeCountsMistakes() {
+// the Strategy window shows the tally the statistics keep. The history shows every hand, the
+// newest first, with the cost of its hold.
+void StatsWindowTest::trainerAndHistoryShowTheCosts() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     BoardFixture f(GameId::JacksOrBetter);
     f.buy(4);
     playHand(f, "As Ks Qs Js 2c"); // before trainer mode: not counted
@@ -231,6 +165,52 @@ void StatsWindowTest::trainerModeCountsMistakes() {
     QCOMPARE(summary(*window, SummaryRow::MistakeCost, kRunColumn), QStringLiteral("$1.67"));
     QTRY_COMPARE(f.board->findChild<QLabel*>(QStringLiteral("TrainerTally"))->text(),
                  QStringLiteral("Mistakes: 1   Cost: $1.67"));
+
+    const QAbstractItemModel* model =
+        window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model();
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->index(0, HistoryModel::Number).data().toString(), QStringLiteral("3"));
+    QCOMPARE(model->index(0, HistoryModel::Result).data().toString(),
+             QStringLiteral("Four of a Kind"));
+    QCOMPARE(model->index(0, HistoryModel::Cost).data().toString(), QStringLiteral("$0.0000"));
+    QCOMPARE(model->index(2, HistoryModel::Cost).data().toString(), QStringLiteral("$1.6702"));
+    QCOMPARE(model->index(2, HistoryModel::Held).data().toString(),
+             model->index(2, HistoryModel::Dealt).data().toString());
+
+    // The export reads back with "." decimals under a comma locale (its columns are the history
+    // file's own tests' part).
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("history.csv"));
+    QVERIFY(window->exportTo(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList rows = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(rows.size(), 4);
+    QVERIFY(rows[0].startsWith(QStringLiteral("Hand,Visit,Game,Bet,Dealt,Held,Final,")));
+    QCOMPARE(rows[1], QStringLiteral("1,1,Jacks or Better,0.25,As Ks Qs Js 2c,As Ks Qs Js 2c,"
+                                     "As Ks Qs Js 2c,,0.00,,0.00,As Ks Qs Js,1.6702"));
+    QVERIFY(!window->exportTo(dir.filePath(QStringLiteral("missing/history.csv"))));
+    QLocale::setDefault(QLocale::c());
+}
+
+// A run-wide model handed to each board keeps counting across visits.
+void StatsWindowTest::runFiguresOutliveABoard() {
+    SessionStats stats;
+    {
+        BoardFixture jacks(GameId::JacksOrBetter, 0.0f, 1.0f, false, nullptr, &stats);
+        jacks.buy(4);
+        playHand(jacks, "2c 5d 9h Js Kd");
+        playHand(jacks, "2c 5d 9h Js Kd");
+        openStats(*jacks.board);
+    }
+    BoardFixture deuces(GameId::DeucesWild, 0.0f, 1.0f, false, nullptr, &stats);
+    deuces.buy(4);
+    playHand(deuces, "3c 5d 9h Js Kd");
+    StatsWindow* window = openStats(*deuces.board);
+    QCOMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("1"));
+    QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
+    QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
+    QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the

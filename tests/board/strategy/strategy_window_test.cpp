@@ -88,22 +88,17 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn_data() {
     QTest::addColumn<unsigned>("best");
     QTest::addColumn<QString>("bets");
     QTest::addColumn<QString>("dollars");
-    QTest::addColumn<QString>("firstCard");
 
     // Four to a royal at 250/100/25/8/5/4/3/1/1: (250 + 8 * 5 + 3 * 4 + 12 * 1) / 47 bets.
     QTest::newRow("Jacks, four to a royal")
         << int(GameId::JacksOrBetter) << "2c As Ks Qs Js" << 1.0f << 0b11110u << "6.6809"
-        << "$6.68" << QString("2\u2663");
+        << "$6.68";
 #ifdef MARIVALE_ODDS_OPTIMISED
-    // Each game's tables take tens of seconds to build in a sanitizer build.
-    // Three Threes with the 16.5-bet mean Treasure Hunt on every draw: 21739 / 1128 bets.
-    QTest::newRow("Treasure Trips, three Threes")
-        << int(GameId::TreasureTrips) << "3c 3d 3h 8s Kc" << 0.25f << 0b00111u << "19.2722"
-        << "$4.82" << QString("3\u2663");
-    // Four deuces pay 200 whatever the fifth card: keeping them ties with standing.
+    // Another game's own tables: four deuces pay 200 whatever the fifth card, so keeping them
+    // ties with standing. It takes tens of seconds to build in a sanitizer build.
     QTest::newRow("Deuces, four deuces")
         << int(GameId::DeucesWild) << "2c 2d 2h 2s 7c" << 0.25f << 0b01111u << "200.0000"
-        << "$50.00" << QString("2\u2663");
+        << "$50.00";
 #endif
 }
 
@@ -114,7 +109,6 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
     QFETCH(unsigned, best);
     QFETCH(QString, bets);
     QFETCH(QString, dollars);
-    QFETCH(QString, firstCard);
 
     Strategy strategy(static_cast<GameId>(game));
     strategy.deal(cards.toLatin1().constData(), bet);
@@ -124,7 +118,7 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
     QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), bets);
     QCOMPARE(strategy.cell(0, HoldTable::kDollarsColumn), dollars);
     QCOMPARE(strategy.holds()->horizontalHeaderItem(HoldTable::kFirstCardColumn)->text(),
-             firstCard);
+             QStringLiteral("2\u2663"));
     QCOMPARE(strategy.holds()->rowCount(), 32);
     QCOMPARE(strategy.cell(1, HoldTable::kRankColumn), QStringLiteral("2"));
 }
@@ -181,7 +175,6 @@ void StrategyWindowTest::toolWindowShowsNoHoldsForAHandThatIsNoDeal() {
     QVERIFY(!strategy.window.handOdds());
     QVERIFY(strategy.holds()->item(0, HoldTable::kBetsColumn) == nullptr);
     QVERIFY(strategy.label("Dealt").startsWith("Deal a hand"));
-    QCOMPARE(strategy.label("TrainerTally"), QStringLiteral("Mistakes: 0   Cost: $0.00"));
 }
 
 void StrategyWindowTest::gameFiguresShowTheReturnOnceWorkedOut() {
@@ -223,7 +216,6 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     QVERIFY(boardTable->isEnabled());
     QVERIFY(strategy.waitForGame());
     QVERIFY(strategy.label("GameReturn").contains("99.5439%"));
-    QVERIFY(strategy.label("GameVariance").contains("19.5147"));
     auto* hits = strategy.window.findChild<QTableWidget*>("HitFrequencies");
     QCOMPARE(hits->item(8, GameFigures::kFrequencyColumn)->text(), QStringLiteral("21.4585%"));
 

@@ -38,7 +38,7 @@ fail_now() {
             titles+="${titles:+, }'$(window_title "$id")'"
         done
         echo "the program still runs and shows: ${titles:-no window}"
-    else
+    elif [ -n "$APP_PID" ]; then
         app_wait 1
         echo "the program has ended with status ${APP_STATUS:-?}; its output:"
         tail -n 20 "$DESKTOP_LOGS/app.log"

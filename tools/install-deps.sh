@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the build, the game and the tests need, when any is missing.
+# libclang-rt-dev holds the libFuzzer runtime that the fuzz test links; apt brings it with clang
+# only as a recommendation, so it is named here.
 set -euo pipefail
-packages=(cmake g++ make pkg-config clang-format libgtest-dev libbenchmark-dev
+packages=(cmake g++ make pkg-config clang-format clang libclang-rt-dev libgtest-dev libbenchmark-dev
           qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-image-formats-plugins libgif-dev
           fonts-dejavu-core fonts-liberation2
           xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream lintian)

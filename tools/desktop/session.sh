@@ -367,20 +367,39 @@ colour_near() {
     done
 }
 
-# Buys credits on the board titled $1 and plays hands, standing on each deal, until one pays
-# with Double Up switched on and the Double Up window opens; at most $2 hands. In phase 0 the
-# board's "&Deal" takes Alt+D; after a paying stand the same key is "&Double      Up".
+# True when a visible window titled $1 appears within $2 seconds of real time, however slowly
+# each search runs on a busy machine.
+window_appears() {
+    local name="$1" now
+    now="${EPOCHREALTIME//[!0-9]/}"
+    local deadline=$((now + $2 * 1000000))
+    while ! xdotool search --onlyvisible --name "^${name}\$" >/dev/null 2>&1; do
+        now="${EPOCHREALTIME//[!0-9]/}"
+        ((now < deadline)) || return 1
+        sleep 0.05
+    done
+}
+
+# Buys credits on the board titled $1 and plays at most $2 hands, standing on each deal, until
+# one pays with Double Up switched on and the Double Up window opens. In phase 0 the board's
+# "&Deal" takes Alt+D; after a paying stand the same key is "&Double      Up". A purchase ($20, the
+# choice the board starts with) pays for 80 losing hands at the $0.25 game, so it buys one per 80
+# hands.
+# A window that comes after the wait is still found: it is modal, so the board ignores the
+# keys sent meanwhile.
 play_until_double_up() {
-    local board="$1" tries="$2"
-    send_keys "$board" alt+p
+    local board="$1" tries="$2" purchases=$(($2 / 80 + 1))
+    while ((purchases-- > 0)); do
+        send_keys "$board" alt+p || return 1
+    done
     sleep 0.3
+    send_keys "$board" alt+d || return 1
     while ((tries-- > 0)); do
-        send_keys "$board" alt+d
-        if window_id "Double Up" 1 >/dev/null 2>&1; then
-            return 0
-        fi
-        send_keys "$board" alt+s
+        send_keys "$board" alt+s || return 1
         sleep 0.3
+        # Double Up after a paying stand, else the next deal.
+        send_keys "$board" alt+d || return 1
+        window_appears "Double Up" 1 && return 0
     done
     return 1
 }

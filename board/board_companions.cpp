@@ -42,6 +42,7 @@ void BoardCompanions::toggleStrategy() {
         if (phaseOf(state_) == Phase::Dealt) {
             strategy_->handDealt();
         }
+        strategy_->setTrainerMode(stats_.trainerMode());
         strategy_->showTrainerTally(stats_.trainer(true));
         QObject::connect(strategy_, &StrategyWindow::trainerSwitched, &board_,
                          [this](bool on) { stats_.setTrainerMode(on); });

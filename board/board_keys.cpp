@@ -6,6 +6,7 @@
 
 // Marivale
 #include "ui/access_keys.h"
+#include "ui/key_repeat_guard.h"
 
 namespace marivale {
 
@@ -23,7 +24,7 @@ void prepareBoardKeys(QWidget& board, const BoardWidgets& widgets) {
         QStringLiteral("Click or press Enter to deal, draw or take the score"));
 }
 
-bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
+bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event, const KeyRepeatGuard& keys) {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers != Qt::NoModifier) {
         return false;
@@ -36,7 +37,7 @@ bool playBoardKey(const BoardWidgets& widgets, const QKeyEvent& event) {
     } else {
         return false;
     }
-    if (!event.isAutoRepeat() && target->isEnabled() && target->isVisible()) {
+    if (!keys.isRepeat(event) && target->isEnabled() && target->isVisible()) {
         target->click();
     }
     return true;

@@ -22,6 +22,7 @@
 #include "play/stats/session_stats.h"
 #include "ui/bell.h"
 #include "ui/card_pictures.h"
+#include "ui/key_repeat_guard.h"
 
 namespace marivale {
 
@@ -65,7 +66,8 @@ public:
     void toggleStrategy() { companions_.toggleStrategy(); }
     void toggleStatistics() { companions_.toggleStatistics(); }
     // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
-    bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event); }
+    bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event, keys_); }
+    void keyReleased(const QKeyEvent& event) { keys_.released(event); }
 
 private:
     void mapControls();
@@ -88,6 +90,7 @@ private:
     std::map<Control, std::string> texts_{};
     bool unloaded_{false};
     bool toldMissing_{false};
+    KeyRepeatGuard keys_{};
 };
 
 void GameBoard::Impl::mapControls() {
@@ -272,6 +275,11 @@ void GameBoard::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QDialog::keyPressEvent(event);
+}
+
+void GameBoard::keyReleaseEvent(QKeyEvent* event) {
+    impl_->keyReleased(*event);
+    QDialog::keyReleaseEvent(event);
 }
 
 void GameBoard::done(int result) {

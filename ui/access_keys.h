@@ -14,6 +14,9 @@
 #include <QShortcutEvent>
 #include <QWidget>
 
+// Marivale
+#include "ui/key_repeat_guard.h"
+
 namespace marivale {
 
 class ImmediateAccessKeys final : public QObject {
@@ -21,20 +24,14 @@ public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        // A held key repeats as a release and a press with the same time stamp. The toolkit
-        // marks most such presses as repeats, but can miss one when the two arrive apart, so
-        // the pair is matched here as well.
         if (event->type() == QEvent::KeyRelease) {
-            const auto* key = static_cast<QKeyEvent*>(event);
-            released_ = {key->key(), key->timestamp()};
+            keys_.released(*static_cast<QKeyEvent*>(event));
             return false;
         }
         // Every key press is first offered to the focus widget as an override; it tells whether
         // the shortcut that may follow comes from a held key.
         if (event->type() == QEvent::ShortcutOverride) {
-            const auto* key = static_cast<QKeyEvent*>(event);
-            repeating_ = key->isAutoRepeat() ||
-                         (key->key() == released_.key && key->timestamp() == released_.timestamp);
+            repeating_ = keys_.isRepeat(*static_cast<QKeyEvent*>(event));
             return false;
         }
         if (event->type() == QEvent::Shortcut) {
@@ -50,11 +47,7 @@ public:
     }
 
 private:
-    struct Release {
-        int key{0};
-        quint64 timestamp{0};
-    };
-    Release released_{};
+    KeyRepeatGuard keys_{};
     bool repeating_{false};
 };
 

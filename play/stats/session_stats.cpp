@@ -96,7 +96,6 @@ void SessionStats::visitStarted(GameId game, float credits) {
     credits_.clear();
     marks_.clear();
     handOpen_ = false;
-    trainerMode_ = false;
     changed();
 }
 

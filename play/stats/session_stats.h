@@ -109,8 +109,10 @@ public:
     void cashedOut(float amount) override;
     void visitEnded(float cashedOut) override;
 
-    // Trainer mode of the Strategy window; each hand records it when the player draws.
+    // Trainer mode of the Strategy window, for the whole run; each hand records it when the
+    // player draws.
     void setTrainerMode(bool on) { trainerMode_ = on; }
+    bool trainerMode() const { return trainerMode_; }
     // Called after every event and judgement, for a window that shows the model.
     void setListener(std::function<void()> listener) { listener_ = std::move(listener); }
 

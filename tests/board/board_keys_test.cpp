@@ -5,6 +5,7 @@
 #include <QtTest>
 
 // Qt
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -12,6 +13,7 @@
 // Marivale
 #include "board/board_companions.h"
 #include "board/board_keys.h"
+#include "play/stats/session_stats.h"
 #include "tests/support/board_fixture.h"
 
 using namespace marivale;
@@ -27,6 +29,7 @@ private slots:
     void enterNeverReachesTheFocusedControl();
     void keysActAtOnceAndOnce();
     void companionsStandWholeOnScreen();
+    void trainerModeLastsTheRun();
     void tooltipsNameTheKeys();
 };
 
@@ -97,7 +100,7 @@ void BoardKeysTest::enterNeverReachesTheFocusedControl() {
 }
 
 // Alt+P then Enter at typing speed buys the credits before it deals; a key held down acts
-// once, and a disabled DrawDeal stays deaf to Enter.
+// once, even when the toolkit misses a repeat, and a disabled DrawDeal stays deaf to Enter.
 void BoardKeysTest::keysActAtOnceAndOnce() {
     BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
     QApplication::setActiveWindow(f.board.get());
@@ -111,6 +114,14 @@ void BoardKeysTest::keysActAtOnceAndOnce() {
     QCOMPARE(f.text("Card0Ind"), QString());
     QKeyEvent repeatEnter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(f.board.get(), &repeatEnter);
+    QCOMPARE(f.state.DrawPhase, 1);
+    // A repeat the toolkit left unmarked: its release and press carry one time stamp.
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
+    release.setTimestamp(500);
+    QApplication::sendEvent(f.board.get(), &release);
+    QKeyEvent unmarked(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    unmarked.setTimestamp(500);
+    QApplication::sendEvent(f.board.get(), &unmarked);
     QCOMPARE(f.state.DrawPhase, 1);
     f.find("DrawDeal")->setEnabled(false);
     QTest::keyClick(f.board.get(), Qt::Key_Return);
@@ -147,6 +158,19 @@ void BoardKeysTest::companionsStandWholeOnScreen() {
         if (c.expectedLeft >= 0) {
             QCOMPARE(placed.left(), c.expectedLeft);
         }
+    }
+}
+
+// Trainer mode switched on at one visit is still on when Strategy opens at the next.
+void BoardKeysTest::trainerModeLastsTheRun() {
+    SessionStats run;
+    for (const bool expected : {false, true}) {
+        BoardFixture f(GameId::JacksOrBetter, 0.0f, 0.25f, false, nullptr, &run);
+        QTest::keyClick(f.board.get(), Qt::Key_F2);
+        auto* trainer = f.find<QCheckBox>(QStringLiteral("Trainer"));
+        QVERIFY(trainer != nullptr);
+        QCOMPARE(trainer->isChecked(), expected);
+        trainer->setChecked(true);
     }
 }
 

@@ -22,6 +22,23 @@ std::string_view CodeName(GameId game, std::uint8_t code) {
     return code < names.size() ? names[code] : std::string_view{};
 }
 
+std::string_view RowName(GameId game, std::uint8_t code) {
+    const GameFacts& rules = facts(game);
+    if (rules.pairPays == PairPays::Nothing || code != 1) {
+        return CodeName(game, code);
+    }
+    for (const PayRow& row : rules.payRows) {
+        if (row.code == code || row.alsoCode == code) {
+            std::string_view caption = row.caption;
+            while (caption.ends_with('.')) {
+                caption.remove_suffix(1);
+            }
+            return caption;
+        }
+    }
+    return CodeName(game, code);
+}
+
 std::string_view HandName(GameId game, std::uint8_t code, const GameState& state,
                           bool acePairMarked) {
     const PairPays pair = facts(game).pairPays;

@@ -17,4 +17,8 @@ std::string_view HandName(GameId game, std::uint8_t code, const GameState& state
 // The name of a code with no pair detail ("Two Pair", "Pair of Jacks/Queens/Kings/Aces" ...).
 std::string_view CodeName(GameId game, std::uint8_t code);
 
+// The name of a code in a table of every code: its name, except that the code a single pair
+// shares is named as the board's pay row names it ("Jacks or Better", "Two Pair/Aces").
+std::string_view RowName(GameId game, std::uint8_t code);
+
 } // namespace marivale

@@ -159,7 +159,7 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
     int row = 0;
     for (int code = topCode(game); code >= 1; --code, ++row) {
         const std::size_t slot = code;
-        const std::string_view name = CodeName(game, static_cast<std::uint8_t>(code));
+        const std::string_view name = RowName(game, static_cast<std::uint8_t>(code));
         fill(row, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
              {tallies[0]->codes[slot], tallies[1]->codes[slot]},
              gameOdds ? std::optional(gameOdds->codeProbability[slot]) : std::nullopt);

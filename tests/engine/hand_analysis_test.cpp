@@ -99,6 +99,15 @@ TEST(CodeName, ByCodeAndGame) {
     }
 }
 
+// A table of codes names the pair's shared row as the board does; every other code by its name.
+TEST(RowName, NamesThePairRowAsTheBoard) {
+    EXPECT_EQ(RowName(WJ, 1), "Two Pair/Aces");
+    EXPECT_EQ(RowName(JB, 1), "Jacks or Better");
+    EXPECT_EQ(RowName(TT, 1), "Two Pair");
+    EXPECT_EQ(RowName(DW, 3), "Flush");
+    EXPECT_EQ(RowName(WJ, 2), "Three of a Kind");
+}
+
 struct HandCase {
     GameId game;
     const char* cards;

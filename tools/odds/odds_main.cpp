@@ -54,10 +54,7 @@ std::string codeLabel(GameId game, int code) {
     if (code == 0) {
         return "nothing";
     }
-    if (code == 1 && facts(game).pairPays == PairPays::Aces) {
-        return "Two Pair or Pair of Aces";
-    }
-    return std::string(CodeName(game, static_cast<std::uint8_t>(code)));
+    return std::string(RowName(game, static_cast<std::uint8_t>(code)));
 }
 
 struct Session {

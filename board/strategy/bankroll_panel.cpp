@@ -7,19 +7,18 @@
 // Qt
 #include <QChart>
 #include <QChartView>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineSeries>
-#include <QLocale>
 #include <QScatterSeries>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QVBoxLayout>
 #include <QValueAxis>
 
 // Marivale
 #include "ui/money_text.h"
+#include "ui/number_box.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -28,6 +27,7 @@ constexpr double kMostDollars = 10'000'000.0;
 // The chart runs to the bankroll of this risk, and shows at most this many points.
 constexpr double kChartRisk = 0.001;
 constexpr int kChartPoints = 300;
+constexpr double kMostStretch = 2.0;
 constexpr QSize kChartSize{380, 220};
 
 QString money(double dollars) {
@@ -35,7 +35,12 @@ QString money(double dollars) {
 }
 
 QString percent(double risk) {
-    return QString::number(100.0 * risk, 'f', 4) + '%';
+    return percentText(risk, 4);
+}
+
+// A whole number of bets, rounded down, with its thousands.
+QString betsText(double bets) {
+    return countText(static_cast<long long>(std::floor(bets)));
 }
 
 } // namespace
@@ -45,22 +50,26 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     setObjectName(QStringLiteral("BankrollPanel"));
     auto* layout = new QVBoxLayout(this);
     auto* form = new QFormLayout;
-    bankroll_ = new QDoubleSpinBox(this);
+    bankroll_ = new NumberBox(this);
     bankroll_->setObjectName(QStringLiteral("Bankroll"));
     bankroll_->setRange(0.0, kMostDollars);
     bankroll_->setDecimals(2);
     bankroll_->setPrefix(QStringLiteral("$"));
-    bankroll_->setKeyboardTracking(false);
     bankroll_->setValue(kDefaultBets * std::max(bet, 0.0f));
     form->addRow(tr("Bankroll:"), bankroll_);
-    hands_ = new QSpinBox(this);
+    hands_ = new NumberBox(this);
     hands_->setObjectName(QStringLiteral("Hands"));
+    hands_->setDecimals(0);
     hands_->setRange(1, kMostHands);
     hands_->setSingleStep(100);
-    hands_->setKeyboardTracking(false);
     hands_->setValue(kDefaultHands);
     form->addRow(tr("Hands:"), hands_);
     layout->addLayout(form);
+    inputNote_ = new QLabel(this);
+    inputNote_->setObjectName(QStringLiteral("BankrollNote"));
+    inputNote_->setWordWrap(true);
+    inputNote_->hide();
+    layout->addWidget(inputNote_);
 
     risk_ = new QLabel(this);
     risk_->setObjectName(QStringLiteral("RiskOfRuin"));
@@ -100,18 +109,30 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     layout->addWidget(chart_, 1);
 
     connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this] {
+        inputNote_->hide();
         showRisk();
         drawChart();
     });
-    connect(hands_, &QSpinBox::valueChanged, this, [this](int hands) {
+    connect(hands_, &QDoubleSpinBox::valueChanged, this, [this] {
+        inputNote_->hide();
         showComputing();
-        emit handsChanged(hands);
+        emit handsChanged(hands());
+    });
+    connect(bankroll_, &NumberBox::refused, this, [this](const QString& typed) {
+        inputNote_->setText(tr("\u201c%1\u201d is not a bankroll from %2 to %3.")
+                                .arg(typed, money(0.0), money(kMostDollars)));
+        inputNote_->show();
+    });
+    connect(hands_, &NumberBox::refused, this, [this](const QString& typed) {
+        inputNote_->setText(tr("\u201c%1\u201d is not a number of hands from 1 to %2.")
+                                .arg(typed, countText(kMostHands)));
+        inputNote_->show();
     });
     showComputing();
 }
 
 int BankrollPanel::hands() const {
-    return hands_->value();
+    return static_cast<int>(std::lround(hands_->value()));
 }
 
 void BankrollPanel::setBet(float bet) {
@@ -131,6 +152,13 @@ void BankrollPanel::showComputing() {
     targets_->clear();
     line_->clear();
     mark_->clear();
+    showAxes(false);
+}
+
+// Axes without a curve would only show a meaningless scale.
+void BankrollPanel::showAxes(bool shown) {
+    xAxis_->setVisible(shown);
+    yAxis_->setVisible(shown);
 }
 
 void BankrollPanel::showTooMuch() {
@@ -156,14 +184,13 @@ void BankrollPanel::showRisk() {
     }
     const double bets = bankroll_->value() / bet_;
     risk_->setText(tr("Risk of ruin: <b>%1</b> (%2 bets of %3 over %4 hands)")
-                       .arg(percent(curve_->riskAt(bets)), QString::number(std::floor(bets)),
-                            money(bet_), QLocale().toString(curve_->hands)));
+                       .arg(percent(curve_->riskAt(bets)), betsText(bets), money(bet_),
+                            countText(curve_->hands)));
     QStringList needs;
     for (const double target : kTargets) {
         const double needed = curve_->bankrollFor(target);
         needs << tr("%1 risk: <b>%2</b> (%3 bets)")
-                     .arg(QString::number(100.0 * target) + '%', money(needed * bet_),
-                          QString::number(needed));
+                     .arg(percentText(target, 0), money(needed * bet_), betsText(needed));
     }
     targets_->setText(tr("Bankroll for ") + needs.join(tr("; for ")));
     if (!curve_->exact) {
@@ -172,22 +199,26 @@ void BankrollPanel::showRisk() {
 }
 
 // Risk against bankroll in dollars, up to where the risk falls below 0.1%, with the player's
-// bankroll marked.
+// bankroll marked; a bankroll far beyond that point stretches the chart no further than twice.
 void BankrollPanel::drawChart() {
     line_->clear();
     mark_->clear();
     if (!curve_ || !(bet_ > 0.0f) || curve_->risk.empty()) {
         return;
     }
+    showAxes(true);
     const double bets = bankroll_->value() / bet_;
-    const double end = std::max({curve_->bankrollFor(kChartRisk), 1.2 * bets, curve_->unit});
+    const double riskEnd = std::max(curve_->bankrollFor(kChartRisk), curve_->unit);
+    const double end = std::max(riskEnd, std::min(1.2 * bets, kMostStretch * riskEnd));
     const double step = std::max(curve_->unit, end / kChartPoints);
     QList<QPointF> points;
     for (double x = 0.0; x <= end + step / 2; x += step) {
         points.append({x * bet_, 100.0 * curve_->riskAt(x)});
     }
     line_->replace(points);
-    mark_->append(bets * bet_, 100.0 * curve_->riskAt(bets));
+    if (bets <= end) {
+        mark_->append(bets * bet_, 100.0 * curve_->riskAt(bets));
+    }
     xAxis_->setRange(0.0, end * bet_);
     xAxis_->applyNiceNumbers();
 }

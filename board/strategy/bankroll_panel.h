@@ -14,14 +14,14 @@
 #include "engine/odds/risk_of_ruin.h"
 
 class QChartView;
-class QDoubleSpinBox;
 class QLabel;
 class QLineSeries;
 class QScatterSeries;
-class QSpinBox;
 class QValueAxis;
 
 namespace marivale {
+
+class NumberBox;
 
 class BankrollPanel : public QGroupBox {
     Q_OBJECT
@@ -48,11 +48,13 @@ signals:
 private:
     void showRisk();
     void drawChart();
+    void showAxes(bool shown);
 
     float bet_{0.0f};
     std::optional<odds::RuinCurve> curve_{};
-    QDoubleSpinBox* bankroll_{nullptr};
-    QSpinBox* hands_{nullptr};
+    NumberBox* bankroll_{nullptr};
+    NumberBox* hands_{nullptr};
+    QLabel* inputNote_{nullptr}; // what the player typed and the panel refused
     QLabel* risk_{nullptr};
     QLabel* targets_{nullptr};
     QChartView* chart_{nullptr};

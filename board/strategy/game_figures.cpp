@@ -13,6 +13,8 @@
 // Marivale
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
+#include "ui/number_box.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -24,16 +26,8 @@ constexpr int kRowHeight = 22;
 
 // The name of a paying code as the figures list it.
 QString handLabel(GameId game, int code) {
-    // The lowest row of a game that pays a single pair names both of its hands.
-    if (code == 1 && facts(game).pairPays == PairPays::JacksOrBetter) {
-        return QObject::tr("Jacks or Better");
-    }
-    if (code == 1 && facts(game).pairPays == PairPays::Aces) {
-        return QObject::tr("Two Pair or Aces");
-    }
-    return QString::fromUtf8(
-        CodeName(game, static_cast<std::uint8_t>(code)).data(),
-        static_cast<qsizetype>(CodeName(game, static_cast<std::uint8_t>(code)).size()));
+    const std::string_view name = RowName(game, static_cast<std::uint8_t>(code));
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
@@ -45,11 +39,11 @@ QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
 
 void setFrequency(QTableWidget& table, int row, double probability) {
     table.setItem(row, GameFigures::kFrequencyColumn,
-                  makeItem(QString::number(100.0 * probability, 'f', 4) + '%', Qt::AlignRight));
-    table.setItem(row, GameFigures::kFrequencyColumn + 1,
-                  makeItem(probability > 0.0 ? QString::number(1.0 / probability, 'f', 1)
-                                             : QStringLiteral("-"),
-                           Qt::AlignRight));
+                  makeItem(percentText(probability, 4), Qt::AlignRight));
+    table.setItem(
+        row, GameFigures::kFrequencyColumn + 1,
+        makeItem(probability > 0.0 ? decimalText(1.0 / probability, 1) : QStringLiteral("-"),
+                 Qt::AlignRight));
 }
 
 } // namespace
@@ -67,11 +61,14 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     noteRow->addWidget(boardTable_);
     layout->addLayout(noteRow);
     connect(boardTable_, &QPushButton::clicked, this, &GameFigures::boardTableAsked);
+    // Wrapped, so that a huge figure of an edited table never widens the window for good.
     returnLabel_ = new QLabel(this);
     returnLabel_->setObjectName(QStringLiteral("GameReturn"));
+    returnLabel_->setWordWrap(true);
     layout->addWidget(returnLabel_);
     varianceLabel_ = new QLabel(this);
     varianceLabel_->setObjectName(QStringLiteral("GameVariance"));
+    varianceLabel_->setWordWrap(true);
     layout->addWidget(varianceLabel_);
 
     const bool bonus = facts(game).bonus != Bonus::None;
@@ -100,23 +97,34 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     int row = 0;
     for (int code = topCode(game); code >= 1; --code, ++row) {
         hits_->setItem(row, 0, makeItem(handLabel(game, code), Qt::AlignLeft));
-        auto* pay = new QDoubleSpinBox(hits_);
+        auto* pay = new NumberBox(hits_);
         pay->setObjectName(QStringLiteral("Pay%1").arg(code));
         pay->setRange(0.0, kMostPay);
         pay->setDecimals(2);
         pay->setPrefix(QStringLiteral("\u00d7"));
-        pay->setKeyboardTracking(false);
         pay->setFrame(false);
         pay->setAlignment(Qt::AlignRight);
         hits_->setCellWidget(row, kPaysColumn, pay);
         pays_.push_back(pay);
-        connect(pay, &QDoubleSpinBox::valueChanged, this,
-                [this, code](double value) { emit multiplierEdited(code, value); });
+        connect(pay, &QDoubleSpinBox::valueChanged, this, [this, code](double value) {
+            inputNote_->hide();
+            emit multiplierEdited(code, value);
+        });
+        connect(pay, &NumberBox::refused, this, [this](const QString& typed) {
+            inputNote_->setText(tr("\u201c%1\u201d is not a multiplier from 0 to %2.")
+                                    .arg(typed, countText(static_cast<long long>(kMostPay))));
+            inputNote_->show();
+        });
     }
     if (bonus) {
         hits_->setItem(row, 0, makeItem(tr("Treasure Hunt, one chest"), Qt::AlignLeft));
     }
     layout->addWidget(hits_);
+    inputNote_ = new QLabel(this);
+    inputNote_->setObjectName(QStringLiteral("PayNote"));
+    inputNote_->setWordWrap(true);
+    inputNote_->hide();
+    layout->addWidget(inputNote_);
     showComputing();
 }
 
@@ -150,12 +158,12 @@ void GameFigures::showComputing() {
 }
 
 void GameFigures::showOdds(const odds::GameOdds& result, const odds::PayScale& scale, bool edited) {
-    returnLabel_->setText(tr("Return with the best play: <b>%1%</b>")
-                              .arg(QString::number(100.0 * result.expectedReturn, 'f', 4)));
-    varianceLabel_->setText(tr("Variance of a hand: <b>%1</b> bets\u00b2 &nbsp; standard "
-                               "deviation: <b>%2</b> bets")
-                                .arg(QString::number(result.variance, 'f', 4),
-                                     QString::number(result.standardDeviation(), 'f', 4)));
+    returnLabel_->setText(
+        tr("Return with the best play: <b>%1</b>").arg(percentText(result.expectedReturn, 4)));
+    varianceLabel_->setText(
+        tr("Variance of a hand: <b>%1</b> bets\u00b2 &nbsp; standard "
+           "deviation: <b>%2</b> bets")
+            .arg(decimalText(result.variance, 4), decimalText(result.standardDeviation(), 4)));
     showScale(scale, edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {

@@ -16,12 +16,13 @@
 #include "engine/odds/game_odds.h"
 #include "engine/odds/pay_scale.h"
 
-class QDoubleSpinBox;
 class QLabel;
 class QPushButton;
 class QTableWidget;
 
 namespace marivale {
+
+class NumberBox;
 
 class GameFigures : public QWidget {
     Q_OBJECT
@@ -51,7 +52,8 @@ private:
     QLabel* returnLabel_{nullptr};
     QLabel* varianceLabel_{nullptr};
     QTableWidget* hits_{nullptr};
-    std::vector<QDoubleSpinBox*> pays_{}; // by row, the highest code first
+    QLabel* inputNote_{nullptr};     // a multiplier the player typed and the table refused
+    std::vector<NumberBox*> pays_{}; // by row, the highest code first
 };
 
 } // namespace marivale

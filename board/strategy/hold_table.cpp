@@ -11,6 +11,7 @@
 // Marivale
 #include "ui/card_text.h"
 #include "ui/money_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -106,13 +107,11 @@ void HoldTable::clearRows() {
 }
 
 void HoldTable::showNoDeal() {
-    odds_.reset();
     setHeaderCards(nullptr);
     clearRows();
 }
 
 void HoldTable::showComputing(const HandCards& dealt) {
-    odds_.reset();
     setHeaderCards(&dealt);
     clearRows();
     setSpan(0, kRankColumn, 1, kColumns);
@@ -120,8 +119,6 @@ void HoldTable::showComputing(const HandCards& dealt) {
 }
 
 void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet) {
-    odds_ = odds;
-    bet_ = bet;
     setHeaderCards(&dealt);
     clearRows();
     const auto order = odds.ranking();
@@ -129,7 +126,7 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
         const unsigned held = order[row];
         const odds::HoldOdds& hold = odds.holds[held];
         const bool best = static_cast<int>(held) == odds.best;
-        auto* rank = makeItem(best ? tr("Best") : QString::number(row + 1), Qt::AlignCenter);
+        auto* rank = makeItem(best ? tr("Best") : countText(row + 1), Qt::AlignCenter);
         rank->setData(kHeldRole, held);
         setItem(row, kRankColumn, rank);
         if (held == 0) {
@@ -150,8 +147,7 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
             setItem(row, kFirstCardColumn + p, cell);
         }
         setItem(row, kBetsColumn,
-                makeItem(QString::number(hold.expectedReturn, 'f', 4),
-                         Qt::AlignRight | Qt::AlignVCenter));
+                makeItem(decimalText(hold.expectedReturn, 4), Qt::AlignRight | Qt::AlignVCenter));
         setItem(row, kDollarsColumn,
                 makeItem(dollars(hold.expectedReturn, bet), Qt::AlignRight | Qt::AlignVCenter));
         if (best) {
@@ -166,21 +162,6 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
         }
     }
     scrollToTop();
-}
-
-void HoldTable::showBet(float bet) {
-    bet_ = bet;
-    if (!odds_) {
-        return;
-    }
-    for (int row = 0; row < odds::kHoldCount; ++row) {
-        QTableWidgetItem* rank = item(row, kRankColumn);
-        QTableWidgetItem* money = item(row, kDollarsColumn);
-        if (rank && money) {
-            const auto held = rank->data(kHeldRole).toUInt();
-            money->setText(dollars(odds_->holds[held].expectedReturn, bet));
-        }
-    }
 }
 
 } // namespace marivale

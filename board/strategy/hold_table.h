@@ -5,7 +5,6 @@
 
 // Standard library
 #include <array>
-#include <optional>
 
 // Qt
 #include <QTableWidget>
@@ -33,15 +32,10 @@ public:
     // The dealt cards, while their odds are still being worked out.
     void showComputing(const HandCards& dealt);
     void showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet);
-    // Redraws the dollar column for a new bet.
-    void showBet(float bet);
 
 private:
     void setHeaderCards(const HandCards* dealt);
     void clearRows();
-
-    std::optional<odds::HandOdds> odds_{};
-    float bet_{0.0f};
 };
 
 } // namespace marivale

@@ -6,6 +6,7 @@
 // Qt
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -233,6 +234,7 @@ void StrategyWindow::handDealt() {
         return;
     }
     dealt_ = dealt;
+    dealtBet_ = state_.BetAmount;
     showDealtLabel();
     analyseDeal();
 }
@@ -247,7 +249,7 @@ void StrategyWindow::analyseDeal() {
     }
     handOdds_ = odds::analyzeHolds(*tables, *dealt_, scale_);
     boardHandOdds_ = edited_ ? odds::analyzeHolds(*tables, *dealt_, boardScale_) : *handOdds_;
-    holds_->showOdds(*dealt_, *handOdds_, state_.BetAmount);
+    holds_->showOdds(*dealt_, *handOdds_, dealtBet_);
     if (pendingPlay_) {
         judge(*pendingPlay_);
         pendingPlay_.reset();
@@ -267,26 +269,37 @@ void StrategyWindow::handPlayed(HandHolds held) {
     judge(mask);
 }
 
-// The trainer judges by the board's own table, whatever table the window shows.
+// The trainer judges by the board's own table, whatever table the window shows, and says so
+// when the list shows another.
 void StrategyWindow::judge(unsigned played) {
-    emit holdJudged(trainer_->judge(*boardHandOdds_, *dealt_, played, state_.BetAmount));
+    emit holdJudged(trainer_->judge(*boardHandOdds_, *dealt_, played, dealtBet_, edited_));
+}
+
+void StrategyWindow::setTrainerMode(bool on) {
+    trainer_->setOn(on);
+}
+
+// F2 closes the window as it opened it; so does Escape, as in the statistics.
+void StrategyWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F2 || event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
     trainer_->showTally(summary);
 }
 
+// A hand on show keeps the bet it was dealt at; the bankroll takes the new one.
 void StrategyWindow::betChanged() {
-    holds_->showBet(state_.BetAmount);
     bankroll_->setBet(state_.BetAmount);
-    if (dealt_) {
-        showDealtLabel();
-    }
 }
 
 void StrategyWindow::showDealtLabel() {
     dealtLabel_->setText(
-        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(state_.BetAmount)));
+        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(dealtBet_)));
 }
 
 } // namespace marivale

@@ -28,6 +28,7 @@
 #include "play/strategy/hold_judgement.h"
 #include "state/game_state.h"
 
+class QKeyEvent;
 class QLabel;
 
 namespace marivale {
@@ -46,7 +47,7 @@ public:
     void handDealt();
     // At the draw (before the cards are replaced) or a stand: the holds the player used.
     void handPlayed(HandHolds held);
-    // The pay table changed with the bet.
+    // The board's bet changed; a hand on show keeps the bet it was dealt at.
     void betChanged();
     // The trainer's tally of the visit, as the statistics count it.
     void showTrainerTally(const TrainerSummary& summary);
@@ -65,11 +66,17 @@ public:
     // True once the risk of ruin of the table on show is on show.
     bool riskReady() const;
 
+    // Trainer mode as the run left it.
+    void setTrainerMode(bool on);
+
 signals:
     // Trainer mode was switched on or off.
     void trainerSwitched(bool on);
     // Trainer mode judged the hold of the hand dealt last, by the board's own pay table.
     void holdJudged(const HoldJudgement& judgement);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildLayout();
@@ -90,6 +97,7 @@ private:
     int generation_{0}; // counts the tables shown, so late results of an older one are dropped
     std::optional<odds::GameOdds> gameOdds_{};
     std::optional<HandCards> dealt_{};
+    float dealtBet_{0.0f}; // the bet of the hand on show
     std::optional<odds::HandOdds> handOdds_{};
     std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
     std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready

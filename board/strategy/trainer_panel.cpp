@@ -9,6 +9,7 @@
 // Marivale
 #include "ui/card_text.h"
 #include "ui/money_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -56,6 +57,10 @@ bool TrainerPanel::isOn() const {
     return trainer_->isChecked();
 }
 
+void TrainerPanel::setOn(bool on) {
+    trainer_->setChecked(on);
+}
+
 void TrainerPanel::clearVerdict() {
     verdict_->clear();
 }
@@ -65,18 +70,20 @@ void TrainerPanel::showChecking() {
 }
 
 HoldJudgement TrainerPanel::judge(const odds::HandOdds& odds, const HandCards& dealt,
-                                  unsigned played, float bet) {
+                                  unsigned played, float bet, bool listEdited) {
     const HoldJudgement verdict = judgeHold(odds, played, bet);
+    // An edited table's list may rank the holds otherwise: the verdict names its own table.
+    const QString table = listEdited ? tr("By the board's pay table: ") : QString();
     if (verdict.mistake) {
         verdict_->setText(
-            tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
-               "It cost %5.")
-                .arg(heldHtml(dealt, played), QString::number(verdict.playedReturn, 'f', 4),
-                     heldHtml(dealt, verdict.best), QString::number(verdict.bestReturn, 'f', 4),
-                     moneyText(verdict.cost)));
+            table + tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
+                       "It cost %5.")
+                        .arg(heldHtml(dealt, played), decimalText(verdict.playedReturn, 4),
+                             heldHtml(dealt, verdict.best), decimalText(verdict.bestReturn, 4),
+                             moneyText(verdict.cost)));
     } else {
         verdict_->setText(
-            tr("Best hold played (%1 bets).").arg(QString::number(verdict.playedReturn, 'f', 4)));
+            table + tr("Best hold played (%1 bets).").arg(decimalText(verdict.playedReturn, 4)));
     }
     return verdict;
 }

@@ -22,13 +22,14 @@ public:
     explicit TrainerPanel(QWidget* parent = nullptr);
 
     bool isOn() const;
+    void setOn(bool on);
     void clearVerdict();
     // The hold came before its odds: the verdict follows once they are worked out.
     void showChecking();
     // Judges the hold `played` (mask over board positions) of the dealt cards at a bet and
-    // shows the verdict.
+    // shows the verdict, naming the board's table when the list shows an edited one.
     HoldJudgement judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played,
-                        float bet);
+                        float bet, bool listEdited);
     void showTally(const TrainerSummary& summary);
 
 signals:

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineSeries>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -72,6 +71,8 @@ constexpr std::array<double, 9> kNineSix{800, 50, 25, 9, 6, 4, 3, 2, 1};
 class StrategyWindowTest : public QObject {
     Q_OBJECT
 private slots:
+    // Every figure must read the same under a desktop locale that writes numbers otherwise.
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
     void bestHoldFirstWithItsExactReturn_data();
     void bestHoldFirstWithItsExactReturn();
     void trainerCountsWeakerHoldsAndTheirCost();
@@ -79,6 +80,8 @@ private slots:
     void gameFiguresShowTheReturnOnceWorkedOut();
     void editedPayTableShowsItsFiguresUntilTheBoardTableComesBack();
     void riskOfRuinFollowsTheBankrollHandsAndBet();
+    void typedNumbersAreTakenAsMeantOrRefusedAloud();
+    void escapeClosesTheWindow();
 };
 
 void StrategyWindowTest::bestHoldFirstWithItsExactReturn_data() {
@@ -125,14 +128,15 @@ void StrategyWindowTest::bestHoldFirstWithItsExactReturn() {
 
 void StrategyWindowTest::trainerCountsWeakerHoldsAndTheirCost() {
     Strategy strategy(GameId::JacksOrBetter);
-    // A new bet changes the dollars, not the bets; with the trainer off a weak hold is not judged.
+    // A new bet after the deal leaves the hand on show at its own bet; with the trainer off a
+    // weak hold is not judged.
     strategy.deal("2c As Ks Qs Js", 1.0f);
     QVERIFY(strategy.waitForHolds());
     strategy.state.BetAmount = 5.0f;
     strategy.window.betChanged();
-    QCOMPARE(strategy.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$33.40"));
+    QCOMPARE(strategy.cell(0, HoldTable::kDollarsColumn), QStringLiteral("$6.68"));
     QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), QStringLiteral("6.6809"));
-    QVERIFY(strategy.label("Dealt").contains("$5.00"));
+    QVERIFY(strategy.label("Dealt").contains("$1.00"));
     strategy.window.handPlayed({true, true, true, true, true});
     QVERIFY(strategy.label("TrainerVerdict").isEmpty());
     strategy.trainer(true);
@@ -225,6 +229,7 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     QVERIFY(strategy.waitForHolds());
     QCOMPARE(strategy.cell(0, HoldTable::kBetsColumn), QStringLiteral("18.5532"));
     strategy.window.handPlayed({true, true, true, true, true});
+    QVERIFY(strategy.label("TrainerVerdict").startsWith("By the board's pay table: "));
     QVERIFY(strategy.label("TrainerVerdict").contains("$6.68"));
 
     QTest::mouseClick(boardTable, Qt::LeftButton);
@@ -274,12 +279,77 @@ void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
     QVERIFY(strategy.label("RiskOfRuin").contains(percent(session.riskAt(160))));
 
     // Fewer hands: a new curve.
-    strategy.window.findChild<QSpinBox*>("Hands")->setValue(100);
+    strategy.window.findChild<QDoubleSpinBox*>("Hands")->setValue(100);
     QVERIFY(strategy.label("RiskOfRuin").contains(QStringLiteral("computing")));
     QVERIFY(strategy.waitForRisk());
     QCOMPARE(strategy.label("RiskOfRuin"),
              QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $0.25 over 100 hands)")
                  .arg(percent(odds::ruinCurve(payouts, 100)->riskAt(160))));
+}
+
+// What a player types is taken as meant in either convention, never multiplied; a number out of
+// range or no number at all is refused with a note, and the box keeps its value.
+void StrategyWindowTest::typedNumbersAreTakenAsMeantOrRefusedAloud() {
+    Strategy strategy(GameId::JacksOrBetter);
+    strategy.state.BetAmount = 0.25f;
+    strategy.window.betChanged();
+    auto* bankroll = strategy.window.findChild<QDoubleSpinBox*>("Bankroll");
+    auto* hands = strategy.window.findChild<QDoubleSpinBox*>("Hands");
+    QCOMPARE(bankroll->text(), QStringLiteral("$40.00"));
+    QCOMPARE(hands->text(), QStringLiteral("1,600"));
+    QCOMPARE(strategy.pay(8)->text(), QStringLiteral("\u00d7100.00"));
+    const auto type = [](QDoubleSpinBox* box, const QString& text) {
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+    struct Typed {
+        QDoubleSpinBox* box;
+        const char* text;
+        double value;
+    };
+    const std::array<Typed, 5> taken{{
+        {strategy.pay(1), "8.5", 8.5},
+        {strategy.pay(2), "2,5", 2.5},
+        {bankroll, "40.5", 40.5},
+        {bankroll, "1,250", 1250.0},
+        {hands, "2,000", 2000.0},
+    }};
+    for (const Typed& t : taken) {
+        type(t.box, QString::fromUtf8(t.text));
+        QCOMPARE(t.box->value(), t.value);
+    }
+    QVERIFY(strategy.window.findChild<QLabel*>("BankrollNote")->isHidden());
+
+    struct Refused {
+        QDoubleSpinBox* box;
+        const char* text;
+        const char* note;
+        const char* noteName;
+    };
+    const std::array<Refused, 3> refused{{
+        {hands, "-5", "\u201c-5\u201d is not a number of hands from 1 to 10,000.", "BankrollNote"},
+        {bankroll, "99999999999",
+         "\u201c99999999999\u201d is not a bankroll from $0.00 to $10,000,000.00.", "BankrollNote"},
+        {strategy.pay(3), "abc", "\u201cabc\u201d is not a multiplier from 0 to 100,000.",
+         "PayNote"},
+    }};
+    for (const Refused& r : refused) {
+        const double before = r.box->value();
+        type(r.box, QString::fromUtf8(r.text));
+        QCOMPARE(r.box->value(), before);
+        QCOMPARE(strategy.label(r.noteName), QString::fromUtf8(r.note));
+        QVERIFY(!strategy.window.findChild<QLabel*>(r.noteName)->isHidden());
+    }
+}
+
+void StrategyWindowTest::escapeClosesTheWindow() {
+    Strategy strategy(GameId::DeucesWild);
+    strategy.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strategy.window));
+    QTest::keyClick(&strategy.window, Qt::Key_Escape);
+    QVERIFY(!strategy.window.isVisible());
 }
 
 QTEST_MAIN(StrategyWindowTest)

@@ -1,8 +1,10 @@
-// marivale-odds GAME [M...] [--bankroll B --hands N [--risk P]...]: plays every deal of a game
+// marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...]: plays every
+// deal of a game
 // the best way and prints how often each final hand comes up, the return ("return: 99.5439%")
 // and the variance of one hand's pay in bets squared ("variance: 19.5147").
 // GAME is JB, DW, WJ or TT; the optional multipliers run from the highest code down (ten on
-// DW, nine elsewhere); without them the game's own pay table is used. With a bankroll of B bets
+// DW, nine elsewhere), or NAME names a well-known table; without them the game's own pay table is
+// used. With a bankroll of B bets
 // and a session of N hands it adds the risk of ruin, and the smallest bankroll for each target
 // risk P in percent (1 and 5 unless given).
 
@@ -21,6 +23,7 @@
 #include "engine/hand_names.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
+#include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
 
@@ -29,11 +32,18 @@ namespace {
 using namespace marivale;
 
 int usage() {
-    std::fputs("usage: marivale-odds GAME [M...] [--bankroll B --hands N [--risk P]...]\n"
+    std::fputs("usage: marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk "
+               "P]...]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
                "        the game's own pay table when left out\n"
+               "  NAME  a well-known table of the game:",
+               stderr);
+    for (const odds::NamedTable& table : odds::namedTables()) {
+        std::fprintf(stderr, " %s", std::string(table.name).c_str());
+    }
+    std::fputs("\n"
                "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
                "  P     a target risk of ruin in percent (1 and 5 unless given)\n",
                stderr);
@@ -102,8 +112,18 @@ int main(int argc, char** argv) {
     odds::PayScale scale = odds::ownPayScale(*game);
     std::vector<double> multipliers;
     Session session;
+    const odds::NamedTable* named = nullptr;
     for (int i = 2; i < argc; ++i) {
         const std::string_view arg = argv[i];
+        if (arg == "--table") {
+            named = i + 1 < argc ? odds::findNamedTable(argv[++i]) : nullptr;
+            if (named == nullptr || named->game != *game) {
+                std::fprintf(stderr, "marivale-odds: no such table of %s\n", argv[1]);
+                return usage();
+            }
+            scale = odds::payScaleOf(*named);
+            continue;
+        }
         if (arg == "--bankroll" || arg == "--hands" || arg == "--risk") {
             const std::optional<double> value =
                 i + 1 < argc ? parseNumber(argv[++i]) : std::nullopt;
@@ -129,6 +149,9 @@ int main(int argc, char** argv) {
     if (ruin &&
         (!session.bankroll || !session.hands || *session.hands != std::floor(*session.hands) ||
          *session.hands > odds::kMaxRuinHands)) {
+        return usage();
+    }
+    if (named != nullptr && !multipliers.empty()) {
         return usage();
     }
     if (!multipliers.empty()) {

@@ -8,6 +8,7 @@
 // Standard library
 #include <algorithm>
 #include <array>
+#include <map>
 #include <numeric>
 #include <stop_token>
 
@@ -15,6 +16,7 @@
 #include "engine/odds/deal_classes.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
+#include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "tests/support/odds_test_support.h"
 
@@ -27,8 +29,7 @@ namespace {
     }
 
 struct PublishedGame {
-    GameId game;
-    std::array<double, 10> multipliers; // from the highest code down
+    const char* table; // a well-known table by name
     double expectedReturn;
     double variance;                    // rounded to four places
     std::array<double, 11> probability; // by code 0..10, rounded to six places
@@ -36,14 +37,12 @@ struct PublishedGame {
 
 // 9/6 Jacks or Better (800 for a royal) and full-pay Deuces Wild, as published.
 const std::array<PublishedGame, 2> kPublished{{
-    {GameId::JacksOrBetter,
-     {800, 50, 25, 9, 6, 4, 3, 2, 1},
+    {"jacks-9-6",
      0.995439,
      19.5147,
      {0.545435, 0.214585, 0.129279, 0.074449, 0.011229, 0.011015, 0.011512, 0.002363, 0.000109,
       0.000025, 0}},
-    {GameId::DeucesWild,
-     {800, 200, 25, 15, 9, 5, 3, 2, 2, 1},
+    {"deuces-full-pay",
      1.007620,
      25.8378,
      {0.546905, 0.284702, 0.055963, 0.016868, 0.021229, 0.064938, 0.004172, 0.003202, 0.001796,
@@ -53,12 +52,11 @@ const std::array<PublishedGame, 2> kPublished{{
 TEST(GameOdds, PublishedTablesReturnAndHitFrequencies) {
     SKIP_UNLESS_OPTIMISED();
     for (const PublishedGame& published : kPublished) {
-        SCOPED_TRACE(std::string(shortName(published.game)));
-        const auto count = static_cast<std::size_t>(topCode(published.game));
-        const auto scale = odds::payScaleFromMultipliers(
-            published.game, std::span<const double>(published.multipliers.data(), count));
-        ASSERT_TRUE(scale);
-        const auto result = odds::analyzeGame(odds::DrawTables::forGame(published.game), *scale);
+        SCOPED_TRACE(published.table);
+        const odds::NamedTable* table = odds::findNamedTable(published.table);
+        ASSERT_NE(table, nullptr);
+        const auto result =
+            odds::analyzeGame(odds::DrawTables::forGame(table->game), odds::payScaleOf(*table));
         ASSERT_TRUE(result);
         EXPECT_NEAR(result->expectedReturn, published.expectedReturn, 5e-7);
         EXPECT_NEAR(result->variance, published.variance, 5e-5);
@@ -75,15 +73,13 @@ TEST(GameOdds, PublishedTablesReturnAndHitFrequencies) {
 // change with the rounding, while the return scales by a tenth and the variance by a hundredth.
 TEST(GameOdds, ScalingEveryPayKeepsThePlay) {
     SKIP_UNLESS_OPTIMISED();
-    const PublishedGame& jacks = kPublished[0];
+    const odds::NamedTable& jacks = *odds::findNamedTable("jacks-9-6");
     std::array<double, 9> tenths{};
     for (std::size_t i = 0; i < tenths.size(); ++i) {
-        tenths[i] = jacks.multipliers[i] / 10.0;
+        tenths[i] = jacks.payouts[i] / 10.0;
     }
     const auto& tables = odds::DrawTables::forGame(GameId::JacksOrBetter);
-    const auto whole = odds::analyzeGame(
-        tables, *odds::payScaleFromMultipliers(
-                    GameId::JacksOrBetter, std::span<const double>(jacks.multipliers.data(), 9)));
+    const auto whole = odds::analyzeGame(tables, odds::payScaleOf(jacks));
     const auto scaled =
         odds::analyzeGame(tables, *odds::payScaleFromMultipliers(GameId::JacksOrBetter, tenths));
     ASSERT_TRUE(whole && scaled);
@@ -106,6 +102,31 @@ constexpr std::array<OwnTable, kGameCount> kOwnTables{{
     {GameId::JokerWild, 0.81433903, 0.0, 10.0341},
     {GameId::TreasureTrips, 1.03749729, 0.39253480, 20.0572},
 }};
+
+// Every well-known table has a multiplier for each code of its game, and its published return.
+TEST(GameOdds, NamedTablesReturns) {
+    const std::map<std::string_view, double> published{
+        {"jacks-9-6", 0.995439},
+        {"jacks-8-5", 0.972984},
+        {"deuces-full-pay", 1.007620},
+        {"deuces-16-10", 0.997283},
+    };
+    ASSERT_EQ(odds::namedTables().size(), published.size());
+    for (const odds::NamedTable& table : odds::namedTables()) {
+        SCOPED_TRACE(std::string(table.name));
+        ASSERT_EQ(static_cast<int>(table.payouts.size()), topCode(table.game));
+        EXPECT_EQ(odds::findNamedTable(table.name), &table);
+        if (!testing::kOptimisedBuild) {
+            continue;
+        }
+        const auto result =
+            odds::analyzeGame(odds::DrawTables::forGame(table.game), odds::payScaleOf(table));
+        ASSERT_TRUE(result);
+        EXPECT_NEAR(result->expectedReturn, published.at(table.name), 5e-7);
+    }
+    EXPECT_EQ(odds::findNamedTable("jacks"), nullptr);
+    EXPECT_TRUE(odds::namedTablesOf(GameId::JokerWild).empty());
+}
 
 TEST(GameOdds, OwnTablesReturns) {
     SKIP_UNLESS_OPTIMISED();

@@ -1,6 +1,7 @@
 #include "board/strategy/game_figures.h"
 
 // Qt
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -48,7 +49,8 @@ void setFrequency(QTableWidget& table, int row, double probability) {
 
 } // namespace
 
-GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(game) {
+GameFigures::GameFigures(GameId game, QWidget* parent)
+    : QWidget(parent), game_(game), named_(odds::namedTablesOf(game)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* noteRow = new QHBoxLayout;
@@ -61,6 +63,7 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     noteRow->addWidget(boardTable_);
     layout->addLayout(noteRow);
     connect(boardTable_, &QPushButton::clicked, this, &GameFigures::boardTableAsked);
+    buildTableChoice(*layout);
     // Wrapped, so that a huge figure of an edited table never widens the window for good.
     returnLabel_ = new QLabel(this);
     returnLabel_->setObjectName(QStringLiteral("GameReturn"));
@@ -128,11 +131,76 @@ GameFigures::GameFigures(GameId game, QWidget* parent) : QWidget(parent), game_(
     showComputing();
 }
 
+// A choice of the board's table and the game's well-known ones, for games that have any.
+void GameFigures::buildTableChoice(QVBoxLayout& layout) {
+    if (named_.empty()) {
+        return;
+    }
+    auto* row = new QHBoxLayout;
+    tableChoice_ = new QComboBox(this);
+    tableChoice_->setObjectName(QStringLiteral("PayTableChoice"));
+    tableChoice_->addItem(tr("The board's table"));
+    for (const odds::NamedTable& table : named_) {
+        tableChoice_->addItem(
+            QString::fromUtf8(table.title.data(), static_cast<qsizetype>(table.title.size())));
+    }
+    auto* caption = new QLabel(tr("&Table:"), this);
+    caption->setBuddy(tableChoice_);
+    row->addWidget(caption);
+    row->addWidget(tableChoice_, 1);
+    layout.addLayout(row);
+    connect(tableChoice_, &QComboBox::activated, this, [this](int index) {
+        if (index == 0) {
+            emit boardTableAsked();
+        } else if (index <= static_cast<int>(named_.size())) {
+            emit tableChosen(odds::payScaleOf(named_[static_cast<std::size_t>(index - 1)]));
+        }
+    });
+}
+
+// The well-known table a scale is, if any.
+const odds::NamedTable* GameFigures::namedTableOf(const odds::PayScale& scale) const {
+    for (const odds::NamedTable& table : named_) {
+        const odds::PayScale known = odds::payScaleOf(table);
+        if (known.multiplier == scale.multiplier && known.bonus == scale.bonus) {
+            return &table;
+        }
+    }
+    return nullptr;
+}
+
+// Selects the table on show in the choice; a table edited by hand gets an entry of its own.
+void GameFigures::showTableChoice(const odds::NamedTable* named, bool edited) {
+    if (tableChoice_ == nullptr) {
+        return;
+    }
+    const QSignalBlocker quiet(tableChoice_);
+    const int handEdited = static_cast<int>(named_.size()) + 1;
+    if (tableChoice_->count() > handEdited) {
+        tableChoice_->removeItem(handEdited);
+    }
+    if (!edited) {
+        tableChoice_->setCurrentIndex(0);
+    } else if (named != nullptr) {
+        tableChoice_->setCurrentIndex(static_cast<int>(named - named_.data()) + 1);
+    } else {
+        tableChoice_->addItem(tr("Edited by hand"));
+        tableChoice_->setCurrentIndex(handEdited);
+    }
+}
+
 void GameFigures::showScale(const odds::PayScale& scale, bool edited) {
-    tableNote_->setText(edited ? tr("<span style=\"color:#b00000\"><b>Edited pay table</b>: not "
-                                    "the board's, which pays its own.</span>")
+    const odds::NamedTable* named = edited ? namedTableOf(scale) : nullptr;
+    const QString title =
+        named != nullptr
+            ? QString::fromUtf8(named->title.data(), static_cast<qsizetype>(named->title.size()))
+            : tr("Edited pay table");
+    tableNote_->setText(edited ? tr("<span style=\"color:#b00000\"><b>%1</b>: not the board's, "
+                                    "which pays its own.</span>")
+                                     .arg(title)
                                : tr("The board's pay table."));
     boardTable_->setEnabled(edited);
+    showTableChoice(named, edited);
     int row = 0;
     for (int code = topCode(game_); code >= 1; --code, ++row) {
         QDoubleSpinBox* pay = pays_[row];

@@ -14,11 +14,14 @@
 // Marivale
 #include "engine/game.h"
 #include "engine/odds/game_odds.h"
+#include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 
+class QComboBox;
 class QLabel;
 class QPushButton;
 class QTableWidget;
+class QVBoxLayout;
 
 namespace marivale {
 
@@ -44,9 +47,17 @@ signals:
     void multiplierEdited(int code, double multiplier);
     // The player asked for the board's own table back.
     void boardTableAsked();
+    // The player chose a well-known table.
+    void tableChosen(const odds::PayScale& scale);
 
 private:
+    void buildTableChoice(QVBoxLayout& layout);
+    const odds::NamedTable* namedTableOf(const odds::PayScale& scale) const;
+    void showTableChoice(const odds::NamedTable* named, bool edited);
+
     GameId game_;
+    std::vector<odds::NamedTable> named_{}; // the game's well-known tables
+    QComboBox* tableChoice_{nullptr};       // only for a game with well-known tables
     QLabel* tableNote_{nullptr};
     QPushButton* boardTable_{nullptr};
     QLabel* returnLabel_{nullptr};

@@ -51,6 +51,7 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
 
     connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
+    connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
     connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
 
@@ -198,7 +199,11 @@ void StrategyWindow::setMultiplier(int code, double multiplier) {
 }
 
 void StrategyWindow::useBoardTable() {
-    scale_ = boardScale_;
+    useTable(boardScale_);
+}
+
+void StrategyWindow::useTable(const odds::PayScale& scale) {
+    scale_ = scale;
     payScaleChanged();
 }
 

@@ -56,6 +56,8 @@ public:
     void setMultiplier(int code, double multiplier);
     // Back to the board's own pay table.
     void useBoardTable();
+    // Shows every figure under another whole table.
+    void useTable(const odds::PayScale& scale);
     bool payTableEdited() const { return edited_; }
     const odds::PayScale& payScale() const { return scale_; }
 

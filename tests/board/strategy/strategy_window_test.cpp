@@ -5,6 +5,7 @@
 // Qt
 #include <QChartView>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineSeries>
@@ -215,8 +216,11 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     for (int code = 9; code >= 1; --code) {
         strategy.pay(code)->setValue(kNineSix[9 - code]);
     }
+    // Typed by hand, 9/6 is known by its name.
+    auto* choice = strategy.window.findChild<QComboBox*>("PayTableChoice");
     QVERIFY(strategy.window.payTableEdited());
-    QVERIFY(strategy.label("PayTableNote").contains("Edited pay table"));
+    QVERIFY(strategy.label("PayTableNote").contains("9/6 Jacks or Better"));
+    QCOMPARE(choice->currentText(), QStringLiteral("9/6 Jacks or Better"));
     QVERIFY(boardTable->isEnabled());
     QVERIFY(strategy.waitForGame());
     QVERIFY(strategy.label("GameReturn").contains("99.5439%"));
@@ -232,8 +236,19 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     QVERIFY(strategy.label("TrainerVerdict").startsWith("By the board's pay table: "));
     QVERIFY(strategy.label("TrainerVerdict").contains("$6.68"));
 
+    // The next well-known table is one key away; a pay of its own makes it edited by hand.
+    QTest::keyClick(choice, Qt::Key_Down);
+    QCOMPARE(strategy.pay(6)->value(), 8.0);
+    QVERIFY(strategy.waitForGame());
+    QVERIFY(strategy.label("GameReturn").contains("97.2984%"));
+    strategy.pay(1)->setValue(2.0);
+    QCOMPARE(choice->currentText(), QStringLiteral("Edited by hand"));
+    QVERIFY(strategy.label("PayTableNote").contains("Edited pay table"));
+
     QTest::mouseClick(boardTable, Qt::LeftButton);
     QVERIFY(!strategy.window.payTableEdited());
+    QCOMPARE(choice->currentText(), QStringLiteral("The board's table"));
+    QCOMPARE(choice->count(), 3);
     QCOMPARE(strategy.label("PayTableNote"), QStringLiteral("The board's pay table."));
     QVERIFY(!boardTable->isEnabled());
     QCOMPARE(strategy.pay(9)->value(), 250.0);

@@ -37,6 +37,17 @@ BoardCompanions::BoardCompanions(QWidget& board, GameId game, GameState& state, 
     : board_(board), game_(game), state_(state), stats_(stats) {}
 
 void BoardCompanions::toggleStrategy() {
+    makeStrategy();
+    if (strategy_->isVisible()) {
+        strategy_->hide();
+        return;
+    }
+    placeBeside(*strategy_, board_, Side::Right);
+    strategy_->show();
+    strategy_->raise();
+}
+
+void BoardCompanions::makeStrategy() {
     if (strategy_ == nullptr) {
         strategy_ = new StrategyWindow(game_, state_, &board_);
         if (phaseOf(state_) == Phase::Dealt) {
@@ -52,18 +63,33 @@ void BoardCompanions::toggleStrategy() {
                              strategy_->showTrainerTally(stats_.trainer(true));
                          });
     }
-    if (strategy_->isVisible()) {
-        strategy_->hide();
-        return;
+}
+
+void BoardCompanions::replay(const HandRecord& hand) {
+    StrategyWindow* window = nullptr;
+    if (hand.game == game_) {
+        makeStrategy();
+        window = strategy_;
+    } else {
+        StrategyWindow*& other = replays_[gameIndex(hand.game)];
+        if (other == nullptr) {
+            other = new StrategyWindow(hand.game, replayState_, &board_);
+        }
+        window = other;
     }
-    placeBeside(*strategy_, board_, Side::Right);
-    strategy_->show();
-    strategy_->raise();
+    window->replayHand(hand.number, hand.dealt, hand.bet, hand.holds);
+    if (!window->isVisible()) {
+        placeBeside(*window, board_, Side::Right);
+        window->show();
+    }
+    window->raise();
 }
 
 void BoardCompanions::toggleStatistics() {
     if (statsWindow_ == nullptr) {
         statsWindow_ = new StatsWindow(stats_, &board_);
+        QObject::connect(statsWindow_, &StatsWindow::replayAsked, &board_,
+                         [this](const HandRecord& hand) { replay(hand); });
     }
     if (statsWindow_->isVisible()) {
         statsWindow_->hide();
@@ -97,6 +123,11 @@ void BoardCompanions::closeAll() {
     statsWindow_ = nullptr;
     if (strategy_ != nullptr) {
         strategy_->close();
+    }
+    for (StrategyWindow* window : replays_) {
+        if (window != nullptr) {
+            window->close();
+        }
     }
 }
 

@@ -15,6 +15,7 @@ class QWidget;
 namespace marivale {
 
 class SessionStats;
+struct HandRecord;
 class StatsWindow;
 class StrategyWindow;
 
@@ -36,6 +37,9 @@ public:
     // F3: opens the statistics beside the board, or hides them.
     void toggleStatistics();
 
+    // Shows a hand of the history in the Strategy window of its game, opened if need be.
+    void replay(const HandRecord& hand);
+
     void handDealt();
     void handPlayed(const HandHolds& held);
     void betChanged();
@@ -45,12 +49,17 @@ public:
     void closeAll();
 
 private:
+    void makeStrategy();
+
     QWidget& board_;
     GameId game_{GameId::JacksOrBetter};
     GameState& state_;
     SessionStats& stats_;
     StrategyWindow* strategy_{nullptr};
     StatsWindow* statsWindow_{nullptr};
+    // Strategy windows for hands of the history of other games, which no hand in play reaches.
+    std::array<StrategyWindow*, kGameCount> replays_{};
+    GameState replayState_{};
 };
 
 } // namespace marivale

@@ -27,6 +27,14 @@ QString cards(const HandCards& hand, unsigned mask = ~0u) {
 HistoryModel::HistoryModel(const SessionStats& stats, QObject* parent)
     : QAbstractTableModel(parent), stats_(stats) {}
 
+const HandRecord* HistoryModel::hand(int row) const {
+    const auto& history = stats_.history();
+    if (row < 0 || static_cast<std::size_t>(row) >= history.size()) {
+        return nullptr;
+    }
+    return &history[history.size() - 1 - static_cast<std::size_t>(row)];
+}
+
 int HistoryModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(stats_.history().size());
 }

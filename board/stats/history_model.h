@@ -40,6 +40,8 @@ public:
 
     // The model's history changed: show it again.
     void refresh();
+    // The hand on a row; nothing past the last.
+    const HandRecord* hand(int row) const;
 
 private:
     QString text(const HandRecord& hand, int column) const;

@@ -68,6 +68,12 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     history_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     history_->horizontalHeader()->setStretchLastSection(true);
     historyLayout->addWidget(history_);
+    history_->setToolTip(tr("Double-click a hand or press Enter to see it again in Strategy"));
+    connect(history_, &QAbstractItemView::activated, this, [this](const QModelIndex& index) {
+        if (const HandRecord* hand = historyModel_->hand(index.row())) {
+            emit replayAsked(*hand);
+        }
+    });
     auto* exportRow = new QHBoxLayout;
     exportRow->addStretch(1);
     auto* exportButton = new QPushButton(tr("&Export CSV\u2026"), historyPage);

@@ -39,6 +39,10 @@ public:
     // True while holds or whole-game odds are being worked out.
     bool working() const { return working_; }
 
+signals:
+    // The player opened a hand of the history to see it again in the Strategy window.
+    void replayAsked(const HandRecord& hand);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -24,6 +24,7 @@ constexpr int kRowHeight = 20;
 constexpr int kVisibleRows = 14;
 constexpr QRgb kBestRowColour = 0xffd9f2d0;
 constexpr QRgb kDiscardColour = 0xffeeeeee;
+constexpr QRgb kPlayedRowColour = 0xffd6e4f5;
 
 QTableWidgetItem* makeItem(const QString& text, Qt::Alignment alignment) {
     auto* item = new QTableWidgetItem(text);
@@ -118,7 +119,20 @@ void HoldTable::showComputing(const HandCards& dealt) {
     setItem(0, kRankColumn, makeItem(tr("computing\u2026"), Qt::AlignCenter));
 }
 
-void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet) {
+// The hold the player made: its row's texts on a colour of their own (the best row and the
+// discards keep theirs), in view.
+void HoldTable::markPlayed(int row) {
+    for (int column = 0; column < kColumns; ++column) {
+        QTableWidgetItem* cell = item(row, column);
+        if (cell != nullptr && row != 0 && !cell->text().isEmpty()) {
+            cell->setBackground(QColor::fromRgba(kPlayedRowColour));
+        }
+    }
+    scrollToItem(item(row, kRankColumn));
+}
+
+void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet,
+                         std::optional<unsigned> played) {
     setHeaderCards(&dealt);
     clearRows();
     const auto order = odds.ranking();
@@ -126,7 +140,11 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
         const unsigned held = order[row];
         const odds::HoldOdds& hold = odds.holds[held];
         const bool best = static_cast<int>(held) == odds.best;
-        auto* rank = makeItem(best ? tr("Best") : countText(row + 1), Qt::AlignCenter);
+        QString rankText = best ? tr("Best") : countText(row + 1);
+        if (played == held) {
+            rankText = tr("%1, played").arg(rankText);
+        }
+        auto* rank = makeItem(rankText, Qt::AlignCenter);
         rank->setData(kHeldRole, held);
         setItem(row, kRankColumn, rank);
         if (held == 0) {
@@ -162,6 +180,12 @@ void HoldTable::showOdds(const HandCards& dealt, const odds::HandOdds& odds, flo
         }
     }
     scrollToTop();
+    if (played) {
+        const auto found = std::find(order.begin(), order.end(), *played);
+        if (found != order.end()) {
+            markPlayed(static_cast<int>(found - order.begin()));
+        }
+    }
 }
 
 } // namespace marivale

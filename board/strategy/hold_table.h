@@ -5,6 +5,7 @@
 
 // Standard library
 #include <array>
+#include <optional>
 
 // Qt
 #include <QTableWidget>
@@ -31,11 +32,14 @@ public:
     void showNoDeal();
     // The dealt cards, while their odds are still being worked out.
     void showComputing(const HandCards& dealt);
-    void showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet);
+    // The holds best first; the hold the player made, when given, is marked and selected.
+    void showOdds(const HandCards& dealt, const odds::HandOdds& odds, float bet,
+                  std::optional<unsigned> played = std::nullopt);
 
 private:
     void setHeaderCards(const HandCards* dealt);
     void clearRows();
+    void markPlayed(int row);
 };
 
 } // namespace marivale

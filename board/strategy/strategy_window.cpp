@@ -20,6 +20,7 @@
 #include "play/strategy/game_odds_cache.h"
 #include "ui/card_text.h"
 #include "ui/money_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -228,6 +229,7 @@ void StrategyWindow::payScaleChanged() {
 
 void StrategyWindow::handDealt() {
     const HandCards dealt = readDeal(state_);
+    replayed_.reset();
     handOdds_.reset();
     boardHandOdds_.reset();
     pendingPlay_.reset();
@@ -254,14 +256,38 @@ void StrategyWindow::analyseDeal() {
     }
     handOdds_ = odds::analyzeHolds(*tables, *dealt_, scale_);
     boardHandOdds_ = edited_ ? odds::analyzeHolds(*tables, *dealt_, boardScale_) : *handOdds_;
-    holds_->showOdds(*dealt_, *handOdds_, dealtBet_);
+    holds_->showOdds(*dealt_, *handOdds_, dealtBet_, replayed_);
     if (pendingPlay_) {
         judge(*pendingPlay_);
         pendingPlay_.reset();
     }
 }
 
+void StrategyWindow::replayHand(int number, const HandCards& dealt, float bet, unsigned held) {
+    if (!odds::isValidDeal(deckSize(game_), dealt)) {
+        return;
+    }
+    pendingPlay_.reset();
+    trainer_->clearVerdict();
+    dealt_ = dealt;
+    dealtBet_ = bet;
+    replayed_ = held;
+    replayNumber_ = number;
+    handOdds_.reset();
+    boardHandOdds_.reset();
+    showDealtLabel();
+    if (edited_) {
+        useBoardTable();
+    } else {
+        analyseDeal();
+    }
+}
+
 void StrategyWindow::handPlayed(HandHolds held) {
+    if (replayed_) {
+        // A hand of the history was on show: the hand in play comes back to be judged.
+        handDealt();
+    }
     if (!dealt_ || !trainer_->isOn()) {
         return;
     }
@@ -303,8 +329,10 @@ void StrategyWindow::betChanged() {
 }
 
 void StrategyWindow::showDealtLabel() {
-    dealtLabel_->setText(
-        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(dealtBet_)));
+    const QString dealt =
+        tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(dealtBet_));
+    dealtLabel_->setText(replayed_ ? tr("Hand %1 again: %2").arg(countText(replayNumber_), dealt)
+                                   : dealt);
 }
 
 } // namespace marivale

@@ -47,6 +47,9 @@ public:
     void handDealt();
     // At the draw (before the cards are replaced) or a stand: the holds the player used.
     void handPlayed(HandHolds held);
+    // Shows a hand of the history again, at its bet and under the board's table, with the hold
+    // the player made marked; the trainer does not judge it again.
+    void replayHand(int number, const HandCards& dealt, float bet, unsigned held);
     // The board's bet changed; a hand on show keeps the bet it was dealt at.
     void betChanged();
     // The trainer's tally of the visit, as the statistics count it.
@@ -99,7 +102,9 @@ private:
     int generation_{0}; // counts the tables shown, so late results of an older one are dropped
     std::optional<odds::GameOdds> gameOdds_{};
     std::optional<HandCards> dealt_{};
-    float dealtBet_{0.0f}; // the bet of the hand on show
+    float dealtBet_{0.0f};               // the bet of the hand on show
+    std::optional<unsigned> replayed_{}; // the hold of a hand of the history on show
+    int replayNumber_{0};
     std::optional<odds::HandOdds> handOdds_{};
     std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
     std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready

@@ -7,12 +7,16 @@
 // Qt
 #include <QCheckBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
+#include <QTableWidget>
 
 // Marivale
 #include "board/board_companions.h"
 #include "board/board_keys.h"
+#include "board/strategy/hold_table.h"
 #include "play/stats/session_stats.h"
 #include "tests/support/board_fixture.h"
 
@@ -30,6 +34,7 @@ private slots:
     void keysActAtOnceAndOnce();
     void companionsStandWholeOnScreen();
     void trainerModeLastsTheRun();
+    void historyHandOpensInStrategy();
     void tooltipsNameTheKeys();
 };
 
@@ -172,6 +177,44 @@ void BoardKeysTest::trainerModeLastsTheRun() {
         QCOMPARE(trainer->isChecked(), expected);
         trainer->setChecked(true);
     }
+}
+
+// A hand of the history opens in the Strategy window as it was dealt, at its own bet, with the
+// hold the player made marked; a hand in play afterwards is the hand on show again.
+void BoardKeysTest::historyHandOpensInStrategy() {
+    BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
+    f.buy(4);
+    f.script("As Ks Qs Js 2c");
+    f.click("DrawDeal");
+    f.click("Stand"); // stands on four to the royal: a hold of all five
+    f.click("BetUp");
+    QTest::keyClick(f.board.get(), Qt::Key_F3);
+    auto* history = f.find<QTableView>(QStringLiteral("HandHistory"));
+    QVERIFY(history != nullptr);
+    history->setCurrentIndex(history->model()->index(0, 0));
+    QTest::keyClick(history, Qt::Key_Return);
+    auto* strategy = f.find<QWidget>(QStringLiteral("Strategy"));
+    QVERIFY(strategy != nullptr && strategy->isVisible());
+    const QString dealt = f.find<QLabel>(QStringLiteral("Dealt"))->text();
+    QVERIFY2(dealt.startsWith(QStringLiteral("Hand 1 again: Dealt")), qPrintable(dealt));
+    QVERIFY2(dealt.endsWith(QStringLiteral("bet $1.00")), qPrintable(dealt));
+    auto* holds = f.find<QTableWidget>(QStringLiteral("Holds"));
+    const auto playedRow = [holds] {
+        for (int row = 0; row < holds->rowCount(); ++row) {
+            const QTableWidgetItem* rank = holds->item(row, HoldTable::kRankColumn);
+            if (rank != nullptr && rank->text().endsWith(QStringLiteral(", played"))) {
+                return row;
+            }
+        }
+        return -1;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(playedRow() >= 0, 120'000);
+    QCOMPARE(holds->item(playedRow(), HoldTable::kRankColumn)->data(HoldTable::kHeldRole).toUInt(),
+             0x1fu);
+
+    f.script("2c 5d 9h Js Kd");
+    f.click("DrawDeal");
+    QVERIFY(f.find<QLabel>(QStringLiteral("Dealt"))->text().contains(QStringLiteral("$2.00")));
 }
 
 void BoardKeysTest::tooltipsNameTheKeys() {

@@ -99,9 +99,10 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     chart_->setMinimumSize(kChartSize);
     layout->addWidget(chart_, 1);
 
-    connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this] {
+    connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this](double dollars) {
         showRisk();
         drawChart();
+        emit bankrollChanged(dollars);
     });
     connect(hands_, &QSpinBox::valueChanged, this, [this](int hands) {
         showComputing();
@@ -112,6 +113,10 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
 
 int BankrollPanel::hands() const {
     return hands_->value();
+}
+
+double BankrollPanel::bankroll() const {
+    return bankroll_->value();
 }
 
 void BankrollPanel::setBet(float bet) {

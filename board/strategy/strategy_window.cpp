@@ -12,6 +12,7 @@
 // Marivale
 #include "board/strategy/bankroll_panel.h"
 #include "board/strategy/game_figures.h"
+#include "board/strategy/goal_panel.h"
 #include "board/strategy/trainer_panel.h"
 #include "engine/hand_analysis.h"
 #include "engine/odds/draw_tables.h"
@@ -51,10 +52,13 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
+    connect(bankroll_, &BankrollPanel::handsChanged, this, &StrategyWindow::sessionChanged);
+    connect(bankroll_, &BankrollPanel::bankrollChanged, this, &StrategyWindow::sessionChanged);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
+    sessionChanged();
     resize(sizeHint());
     startGameWork();
 }
@@ -95,6 +99,8 @@ void StrategyWindow::buildLayout() {
 
     bankroll_ = new BankrollPanel(state_.BetAmount, this);
     side->addWidget(bankroll_, 1);
+    goals_ = new GoalPanel(this);
+    side->addWidget(goals_);
 }
 
 // Builds the game's tables, then the whole-game figures of the table on show, off the
@@ -184,6 +190,7 @@ void StrategyWindow::gameOddsReady(const odds::GameOdds& result, int generation)
     gameOdds_ = result;
     figures_->showOdds(result, scale_, edited_);
     gameOddsShown_ = true;
+    goals_->setPayouts(odds::payoutDistribution(result, scale_));
     startRuinWork();
 }
 
@@ -210,6 +217,7 @@ void StrategyWindow::payScaleChanged() {
     gameOdds_.reset();
     gameOddsShown_ = false;
     ruinWork_.requestStop();
+    goals_->setPayouts({});
     startGameWork();
     if (!gameOdds_) {
         bankroll_->showComputing();
@@ -279,9 +287,15 @@ void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
 void StrategyWindow::betChanged() {
     holds_->showBet(state_.BetAmount);
     bankroll_->setBet(state_.BetAmount);
+    sessionChanged();
     if (dealt_) {
         showDealtLabel();
     }
+}
+
+// The goals follow the bet and the bankroll panel's session.
+void StrategyWindow::sessionChanged() {
+    goals_->setSession(state_.BetAmount, bankroll_->bankroll(), bankroll_->hands());
 }
 
 void StrategyWindow::showDealtLabel() {

@@ -1,5 +1,8 @@
 #include "board/strategy/goal_panel.h"
 
+// Standard library
+#include <utility>
+
 // Qt
 #include <QComboBox>
 #include <QDoubleSpinBox>

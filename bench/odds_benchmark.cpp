@@ -1,9 +1,11 @@
 // How fast the odds are: a game's tables from scratch, the 32 holds of one dealt hand once the
-// tables exist, a whole game under the best strategy (tables built beforehand), and the
-// marivale-odds tool as a fresh process from start to its last line.
+// tables exist, a whole game under the best strategy (tables built beforehand), a session's risk
+// of ruin and its goal odds, and the marivale-odds tool as a fresh process from start to its last
+// line.
 
 // Standard library
 #include <array>
+#include <string>
 #include <vector>
 
 // Google Benchmark
@@ -16,6 +18,7 @@
 #include "engine/odds/parallel.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
+#include "engine/odds/session_goal.h"
 #include "engine/random_source.h"
 #include "process_timing.h"
 
@@ -89,6 +92,21 @@ void riskOfRuin(benchmark::State& bench, double bankroll, int hands) {
     bench.counters["risk%"] = 100.0 * risk;
 }
 
+// The goal odds of a session on the board's own Jacks or Better table, as the Strategy window
+// works them out: 160 bets, a goal of 100 bets and a stop-loss of 160.
+void sessionGoal(benchmark::State& bench, int hands) {
+    const auto scale = odds::ownPayScale(GameId::JacksOrBetter);
+    const auto game = odds::analyzeGame(odds::DrawTables::forGame(GameId::JacksOrBetter), scale);
+    const auto payouts = odds::payoutDistribution(*game, scale);
+    odds::SessionGoalOdds found;
+    for (auto _ : bench) {
+        found = *odds::sessionGoalOdds(payouts, 160.0, 100.0, 160.0, hands);
+        benchmark::DoNotOptimize(found.goal);
+    }
+    bench.counters["goal%"] = 100.0 * found.goal;
+    bench.counters["hands"] = found.expectedHands;
+}
+
 // The tool as the player runs it: a new process that builds the tables and plays the game.
 void toolProcess(benchmark::State& bench, std::vector<std::string> args) {
     for (auto _ : bench) {
@@ -110,6 +128,13 @@ void registerAll() {
     benchmark::RegisterBenchmark("RiskOfRuin/JB96/bankroll:1000/hands:10000", riskOfRuin, 1000.0,
                                  10000)
         ->Unit(benchmark::kMillisecond);
+    for (const int hands : {1600, 10000}) {
+        benchmark::RegisterBenchmark(
+            ("SessionGoal/JB/bankroll:160/goal:100/stop-loss:160/hands:" + std::to_string(hands))
+                .c_str(),
+            sessionGoal, hands)
+            ->Unit(benchmark::kMillisecond);
+    }
     benchmark::RegisterBenchmark("Tool/JB", toolProcess, std::vector<std::string>{"JB"})
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime()

@@ -108,10 +108,11 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     chart_->setMinimumSize(kChartSize);
     layout->addWidget(chart_, 1);
 
-    connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this] {
+    connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this](double dollars) {
         inputNote_->hide();
         showRisk();
         drawChart();
+        emit bankrollChanged(dollars);
     });
     connect(hands_, &QDoubleSpinBox::valueChanged, this, [this] {
         inputNote_->hide();
@@ -133,6 +134,10 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
 
 int BankrollPanel::hands() const {
     return static_cast<int>(std::lround(hands_->value()));
+}
+
+double BankrollPanel::bankroll() const {
+    return bankroll_->value();
 }
 
 void BankrollPanel::setBet(float bet) {

@@ -34,6 +34,7 @@ public:
     explicit BankrollPanel(float bet, QWidget* parent = nullptr);
 
     int hands() const;
+    double bankroll() const; // in dollars
     // The board's bet changed: the bankroll keeps its dollars (an empty one takes 160 bets).
     void setBet(float bet);
     void showComputing();
@@ -44,6 +45,7 @@ public:
 
 signals:
     void handsChanged(int hands);
+    void bankrollChanged(double dollars);
 
 private:
     void showRisk();

@@ -13,6 +13,7 @@
 // Marivale
 #include "board/strategy/bankroll_panel.h"
 #include "board/strategy/game_figures.h"
+#include "board/strategy/goal_panel.h"
 #include "board/strategy/trainer_panel.h"
 #include "engine/hand_analysis.h"
 #include "engine/odds/draw_tables.h"
@@ -54,10 +55,13 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
     connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
+    connect(bankroll_, &BankrollPanel::handsChanged, this, &StrategyWindow::sessionChanged);
+    connect(bankroll_, &BankrollPanel::bankrollChanged, this, &StrategyWindow::sessionChanged);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
+    sessionChanged();
     resize(sizeHint());
     startGameWork();
 }
@@ -98,6 +102,8 @@ void StrategyWindow::buildLayout() {
 
     bankroll_ = new BankrollPanel(state_.BetAmount, this);
     side->addWidget(bankroll_, 1);
+    goals_ = new GoalPanel(this);
+    side->addWidget(goals_);
 }
 
 // Builds the game's tables, then the whole-game figures of the table on show, off the
@@ -187,6 +193,7 @@ void StrategyWindow::gameOddsReady(const odds::GameOdds& result, int generation)
     gameOdds_ = result;
     figures_->showOdds(result, scale_, edited_);
     gameOddsShown_ = true;
+    goals_->setPayouts(odds::payoutDistribution(result, scale_));
     startRuinWork();
 }
 
@@ -217,6 +224,7 @@ void StrategyWindow::payScaleChanged() {
     gameOdds_.reset();
     gameOddsShown_ = false;
     ruinWork_.requestStop();
+    goals_->setPayouts({});
     startGameWork();
     if (!gameOdds_) {
         bankroll_->showComputing();
@@ -326,6 +334,12 @@ void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
 // A hand on show keeps the bet it was dealt at; the bankroll takes the new one.
 void StrategyWindow::betChanged() {
     bankroll_->setBet(state_.BetAmount);
+    sessionChanged();
+}
+
+// The goals follow the bet and the bankroll panel's session.
+void StrategyWindow::sessionChanged() {
+    goals_->setSession(state_.BetAmount, bankroll_->bankroll(), bankroll_->hands());
 }
 
 void StrategyWindow::showDealtLabel() {

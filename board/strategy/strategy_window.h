@@ -35,6 +35,7 @@ namespace marivale {
 
 class BankrollPanel;
 class GameFigures;
+class GoalPanel;
 class TrainerPanel;
 
 class StrategyWindow : public QWidget {
@@ -93,6 +94,7 @@ private:
     void analyseDeal();
     void judge(unsigned played);
     void showDealtLabel();
+    void sessionChanged();
 
     GameId game_;
     const GameState& state_;
@@ -115,6 +117,7 @@ private:
     TrainerPanel* trainer_{nullptr};
     GameFigures* figures_{nullptr};
     BankrollPanel* bankroll_{nullptr};
+    GoalPanel* goals_{nullptr};
 
     // Last members: stopped and joined first when the window goes.
     BackgroundJob gameWork_{};

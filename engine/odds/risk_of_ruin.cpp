@@ -4,52 +4,15 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <numeric>
+
+// Marivale
+#include "engine/odds/pay_grid.h"
 
 namespace marivale::odds {
 namespace {
 
-// Closer than this to a whole number of grid steps counts as on the grid.
-constexpr double kOnGrid = 1e-9;
 // The stop request is looked at after this many hands of the recursion.
 constexpr int kStopCheck = 32;
-
-struct Grid {
-    int perBet{1}; // grid steps in one bet
-    std::vector<int> steps;
-    double unit{1.0};
-    bool exact{true};
-};
-
-// The coarsest grid that holds every pay and the bet.
-Grid gridFor(std::span<const Payout> payouts) {
-    Grid grid;
-    for (int denominator = 1; denominator <= kFinestRuinGrid; ++denominator) {
-        const bool fits = std::all_of(payouts.begin(), payouts.end(), [&](const Payout& p) {
-            const double scaled = p.bets * denominator;
-            return std::abs(scaled - std::round(scaled)) < kOnGrid;
-        });
-        if (fits || denominator == kFinestRuinGrid) {
-            grid.perBet = denominator;
-            grid.exact = fits;
-            break;
-        }
-    }
-    int common = grid.perBet;
-    for (const Payout& payout : payouts) {
-        const double scaled = payout.bets * grid.perBet;
-        const int steps =
-            static_cast<int>(grid.exact ? std::round(scaled) : std::floor(scaled + kOnGrid));
-        grid.steps.push_back(steps);
-        common = std::gcd(common, steps);
-    }
-    for (int& steps : grid.steps) {
-        steps /= common;
-    }
-    grid.unit = static_cast<double>(common) / grid.perBet;
-    grid.perBet /= common;
-    return grid;
-}
 
 } // namespace
 

@@ -1,18 +1,21 @@
-// marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...]: plays every
-// deal of a game
-// the best way and prints how often each final hand comes up, the return ("return: 99.5439%")
-// and the variance of one hand's pay in bets squared ("variance: 19.5147").
+// marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...
+// [--goal G --stop-loss L]]: plays every deal of a game the best way and prints how often each
+// final hand comes up, the return ("return: 99.5439%") and the variance of one hand's pay in bets
+// squared ("variance: 19.5147").
 // GAME is JB, DW, WJ or TT; the optional multipliers run from the highest code down (ten on
 // DW, nine elsewhere), or NAME names a well-known table; without them the game's own pay table is
 // used. With a bankroll of B bets
 // and a session of N hands it adds the risk of ruin, and the smallest bankroll for each target
-// risk P in percent (1 and 5 unless given).
+// risk P in percent (1 and 5 unless given). With a win goal of G bets and a stop-loss of L bets
+// it adds the chance of reaching each first, of neither in N hands, and the hands played on
+// average.
 
 // Standard library
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +29,7 @@
 #include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
+#include "engine/odds/session_goal.h"
 
 namespace {
 
@@ -33,7 +37,8 @@ using namespace marivale;
 
 int usage() {
     std::fputs("usage: marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk "
-               "P]...]\n"
+               "P]...\n"
+               "                                    [--goal G --stop-loss L]]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
@@ -45,7 +50,8 @@ int usage() {
     }
     std::fputs("\n"
                "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
-               "  P     a target risk of ruin in percent (1 and 5 unless given)\n",
+               "  P     a target risk of ruin in percent (1 and 5 unless given)\n"
+               "  G, L  a win goal and a stop-loss in bets\n",
                stderr);
     return 2;
 }
@@ -71,7 +77,26 @@ struct Session {
     std::optional<double> bankroll{};
     std::optional<double> hands{};
     std::vector<double> risks{};
+    std::optional<double> goal{};
+    std::optional<double> stopLoss{};
 };
+
+// Prints the chances of the session's win goal first, its stop-loss or ruin first, and neither,
+// and the hands it lasts on average.
+int printGoals(std::span<const odds::Payout> payouts, const Session& session) {
+    const auto odds = odds::sessionGoalOdds(payouts, *session.bankroll, *session.goal,
+                                            *session.stopLoss, static_cast<int>(*session.hands));
+    if (!odds) {
+        std::fputs("marivale-odds: too much work for this goal and stop-loss over so many hands\n",
+                   stderr);
+        return 2;
+    }
+    std::printf("goal: %.4f%%\n", 100.0 * odds->goal);
+    std::printf("stop-loss: %.4f%%\n", 100.0 * odds->stopLoss);
+    std::printf("neither: %.4f%%\n", 100.0 * odds->neither);
+    std::printf("expected hands: %.2f\n", odds->expectedHands);
+    return 0;
+}
 
 // Prints the risk of ruin of the session and the bankrolls for the target risks.
 int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const Session& session) {
@@ -96,7 +121,7 @@ int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const S
         std::printf("bankroll for %g%% risk: %g bets\n", target,
                     curve->bankrollFor(target / 100.0));
     }
-    return 0;
+    return session.goal ? printGoals(payouts, session) : 0;
 }
 
 } // namespace
@@ -124,7 +149,8 @@ int main(int argc, char** argv) {
             scale = odds::payScaleOf(*named);
             continue;
         }
-        if (arg == "--bankroll" || arg == "--hands" || arg == "--risk") {
+        if (arg == "--bankroll" || arg == "--hands" || arg == "--risk" || arg == "--goal" ||
+            arg == "--stop-loss") {
             const std::optional<double> value =
                 i + 1 < argc ? parseNumber(argv[++i]) : std::nullopt;
             if (!value) {
@@ -134,6 +160,10 @@ int main(int argc, char** argv) {
                 session.bankroll = value;
             } else if (arg == "--hands") {
                 session.hands = value;
+            } else if (arg == "--goal") {
+                session.goal = value;
+            } else if (arg == "--stop-loss") {
+                session.stopLoss = value;
             } else {
                 session.risks.push_back(*value);
             }
@@ -145,10 +175,11 @@ int main(int argc, char** argv) {
         }
         multipliers.push_back(*value);
     }
-    const bool ruin = session.bankroll || session.hands || !session.risks.empty();
+    const bool ruin = session.bankroll || session.hands || !session.risks.empty() || session.goal ||
+                      session.stopLoss;
     if (ruin &&
         (!session.bankroll || !session.hands || *session.hands != std::floor(*session.hands) ||
-         *session.hands > odds::kMaxRuinHands)) {
+         *session.hands > odds::kMaxRuinHands || !session.goal != !session.stopLoss)) {
         return usage();
     }
     if (named != nullptr && !multipliers.empty()) {

@@ -1,12 +1,14 @@
 // The Strategy window: the best hold first with its exact return, dollars that follow the bet,
 // trainer mode's count of weaker holds and their cost, the game's figures once worked out, an
-// edited pay table with the board's table one click away, and the risk of ruin of a session.
+// edited pay table with the board's table one click away, and the risk of ruin and the goals of a
+// session.
 
 // Qt
 #include <QChartView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineSeries>
 #include <QPushButton>
@@ -21,6 +23,7 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/risk_of_ruin.h"
+#include "engine/odds/session_goal.h"
 #include "state/game_state.h"
 #include "tests/support/hand_text.h"
 
@@ -83,6 +86,7 @@ private slots:
     void riskOfRuinFollowsTheBankrollHandsAndBet();
     void typedNumbersAreTakenAsMeantOrRefusedAloud();
     void escapeClosesTheWindow();
+    void sessionGoalsFollowTheBankrollAndTheirUnit();
 };
 
 void StrategyWindowTest::bestHoldFirstWithItsExactReturn_data() {
@@ -365,6 +369,50 @@ void StrategyWindowTest::escapeClosesTheWindow() {
     QVERIFY(QTest::qWaitForWindowExposed(&strategy.window));
     QTest::keyClick(&strategy.window, Qt::Key_Escape);
     QVERIFY(!strategy.window.isVisible());
+}
+
+void StrategyWindowTest::sessionGoalsFollowTheBankrollAndTheirUnit() {
+#ifndef MARIVALE_ODDS_OPTIMISED
+    QSKIP("a whole game: optimised builds only");
+#endif
+    // 160 bets of a quarter over 1,600 hands, a goal of 100 bets and a stop-loss of 160.
+    Strategy strategy(GameId::JacksOrBetter);
+    strategy.state.BetAmount = 0.25f;
+    strategy.window.betChanged();
+    QCOMPARE(strategy.window.findChild<QGroupBox*>("SessionGoals")->title(), "Session goals");
+    const auto ready = [&] {
+        return !strategy.label("GoalOdds").contains("computing\u2026");
+    };
+    QVERIFY(QTest::qWaitFor(ready, kTablesTimeoutMs));
+    const auto scale = odds::ownPayScale(GameId::JacksOrBetter);
+    const auto game = odds::analyzeGame(odds::DrawTables::forGame(GameId::JacksOrBetter), scale);
+    const auto payouts = odds::payoutDistribution(*game, scale);
+    const auto session = *odds::sessionGoalOdds(payouts, 160, 100, 160, 1600);
+    const auto percent = [](double chance) {
+        return QString::number(100.0 * chance, 'f', 4) + '%';
+    };
+    const QString text =
+        QStringLiteral("Win goal of $25.00 first: <b>%1</b><br>Stop-loss of $40.00 "
+                       "or ruin first: <b>%2</b><br>Neither in 1,600 hands: "
+                       "<b>%3</b><br>Hands played on average: <b>%4</b>")
+            .arg(percent(session.goal), percent(session.stopLoss), percent(session.neither))
+            .arg(session.expectedHands, 0, 'f', 1);
+    QCOMPARE(strategy.label("GoalOdds"), text);
+
+    // In dollars the amounts keep their worth; a smaller bankroll asks again.
+    auto* goal = strategy.window.findChild<QDoubleSpinBox*>("WinGoal");
+    strategy.window.findChild<QComboBox*>("GoalUnit")->setCurrentIndex(1);
+    QCOMPARE(goal->text(), QStringLiteral("$25.00"));
+    QVERIFY(QTest::qWaitFor(ready, kTablesTimeoutMs));
+    QCOMPARE(strategy.label("GoalOdds"), text);
+    goal->setValue(2500.0);
+    QCOMPARE(goal->text(), QStringLiteral("$2,500.00"));
+    strategy.window.findChild<QDoubleSpinBox*>("Bankroll")->setValue(10.0);
+    QVERIFY(strategy.label("GoalOdds").contains("computing"));
+    QVERIFY(QTest::qWaitFor(ready, kTablesTimeoutMs));
+    QVERIFY(strategy.label("GoalOdds")
+                .contains("or ruin first: <b>" +
+                          percent(odds::sessionGoalOdds(payouts, 40, 1e4, 160, 1600)->stopLoss)));
 }
 
 QTEST_MAIN(StrategyWindowTest)

@@ -8,25 +8,19 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
 // Marivale
 #include "ui/money_text.h"
+#include "ui/number_box.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
 
-// The window's numbers: "." for decimals and "," for thousands, whatever the system's locale.
-QLocale numberLocale() {
-    QLocale numbers = QLocale::c();
-    numbers.setNumberOptions(QLocale::DefaultNumberOptions);
-    return numbers;
-}
-
 QString percent(double chance) {
-    return QString::number(100.0 * chance, 'f', 4) + '%';
+    return percentText(chance, 4);
 }
 
 QString money(double dollars) {
@@ -34,13 +28,10 @@ QString money(double dollars) {
 }
 
 QDoubleSpinBox* amountBox(const char* name, double bets, QWidget* parent) {
-    auto* box = new QDoubleSpinBox(parent);
+    auto* box = new NumberBox(parent);
     box->setObjectName(QString::fromLatin1(name));
-    box->setLocale(numberLocale());
-    box->setGroupSeparatorShown(true);
     box->setDecimals(2);
     box->setRange(0.0, GoalPanel::kMostBets);
-    box->setKeyboardTracking(false);
     box->setValue(bets);
     return box;
 }
@@ -145,14 +136,13 @@ void GoalPanel::start() {
 }
 
 void GoalPanel::showOdds(const odds::SessionGoalOdds& found) {
-    const QLocale numbers = numberLocale();
     const double bet = bet_;
     QString text =
         tr("Win goal of %1 first: <b>%2</b><br>Stop-loss of %3 or ruin first: <b>%4</b><br>"
            "Neither in %5 hands: <b>%6</b><br>Hands played on average: <b>%7</b>")
             .arg(money(inBets(goal_) * bet), percent(found.goal), money(inBets(stopLoss_) * bet),
-                 percent(found.stopLoss), numbers.toString(hands_), percent(found.neither),
-                 numbers.toString(found.expectedHands, 'f', 1));
+                 percent(found.stopLoss), countText(hands_), percent(found.neither),
+                 decimalText(found.expectedHands, 1));
     if (!found.exact) {
         text += tr(" (pays rounded down to 1/64 bet)");
     }

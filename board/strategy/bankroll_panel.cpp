@@ -28,7 +28,10 @@ constexpr double kMostDollars = 10'000'000.0;
 constexpr double kChartRisk = 0.001;
 constexpr int kChartPoints = 300;
 constexpr double kMostStretch = 2.0;
-constexpr QSize kChartSize{380, 220};
+// The chart's least width, and its least height beside the lines of text its axes take.
+constexpr int kChartWidth = 380;
+constexpr int kPlotHeight = 150;
+constexpr int kChartTextLines = 6;
 
 QString money(double dollars) {
     return moneyText(static_cast<float>(dollars));
@@ -74,10 +77,13 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     risk_ = new QLabel(this);
     risk_->setObjectName(QStringLiteral("RiskOfRuin"));
     risk_->setWordWrap(true);
+    // Room for two lines each, however the window's width wraps them.
+    risk_->setMinimumHeight(2 * risk_->fontMetrics().lineSpacing());
     layout->addWidget(risk_);
     targets_ = new QLabel(this);
     targets_->setObjectName(QStringLiteral("RiskTargets"));
     targets_->setWordWrap(true);
+    targets_->setMinimumHeight(2 * targets_->fontMetrics().lineSpacing());
     layout->addWidget(targets_);
 
     auto* chart = new QChart;
@@ -105,7 +111,8 @@ BankrollPanel::BankrollPanel(float bet, QWidget* parent)
     chart_ = new QChartView(chart, this);
     chart_->setObjectName(QStringLiteral("RiskChart"));
     chart_->setRenderHint(QPainter::Antialiasing);
-    chart_->setMinimumSize(kChartSize);
+    chart_->setMinimumSize(kChartWidth,
+                           kPlotHeight + kChartTextLines * chart_->fontMetrics().lineSpacing());
     layout->addWidget(chart_, 1);
 
     connect(bankroll_, &QDoubleSpinBox::valueChanged, this, [this](double dollars) {

@@ -1,6 +1,7 @@
 #include "board/strategy/strategy_window.h"
 
 // Standard library
+#include <algorithm>
 #include <cmath>
 
 // Qt
@@ -8,6 +9,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QResizeEvent>
+#include <QScreen>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 // Marivale
@@ -75,6 +79,8 @@ StrategyWindow::~StrategyWindow() {
 // Two columns: the dealt hand's holds and the trainer; the game's figures and the bankroll.
 void StrategyWindow::buildLayout() {
     auto* columns = new QHBoxLayout(this);
+    // The window grows with what it has to show, never squeezing a page below its least size.
+    columns->setSizeConstraint(QLayout::SetMinimumSize);
     auto* layout = new QVBoxLayout;
     columns->addLayout(layout);
     dealtLabel_ = new QLabel(this);
@@ -88,22 +94,46 @@ void StrategyWindow::buildLayout() {
     trainer_ = new TrainerPanel(this);
     layout->addWidget(trainer_);
 
-    auto* side = new QVBoxLayout;
-    columns->addLayout(side);
+    // The game's figures and the session's on two pages, so the window fits a laptop's screen.
+    auto* side = new QTabWidget(this);
+    side->setObjectName(QStringLiteral("StrategyPages"));
+    columns->addWidget(side);
+    auto* gamePage = new QWidget(side);
+    auto* gamePageLayout = new QVBoxLayout(gamePage);
     auto* gameBox = new QGroupBox(
         tr("%1: best play over every deal")
             .arg(QString::fromUtf8(variantFor(game_).title.data(),
                                    static_cast<qsizetype>(variantFor(game_).title.size()))),
-        this);
+        gamePage);
     auto* gameLayout = new QVBoxLayout(gameBox);
     figures_ = new GameFigures(game_, gameBox);
     gameLayout->addWidget(figures_);
-    side->addWidget(gameBox);
+    gamePageLayout->addWidget(gameBox);
+    gamePageLayout->addStretch(1);
+    side->addTab(gamePage, tr("&Game"));
 
-    bankroll_ = new BankrollPanel(state_.BetAmount, this);
-    side->addWidget(bankroll_, 1);
-    goals_ = new GoalPanel(this);
-    side->addWidget(goals_);
+    auto* sessionPage = new QWidget(side);
+    auto* sessionLayout = new QVBoxLayout(sessionPage);
+    bankroll_ = new BankrollPanel(state_.BetAmount, sessionPage);
+    sessionLayout->addWidget(bankroll_, 1);
+    goals_ = new GoalPanel(sessionPage);
+    sessionLayout->addWidget(goals_);
+    side->addTab(sessionPage, tr("&Session"));
+}
+
+// A window that grows once its figures arrive stays whole on its screen.
+void StrategyWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (!isVisible() || screen() == nullptr) {
+        return;
+    }
+    const QRect area = screen()->availableGeometry();
+    const QRect outer = frameGeometry();
+    const int x = std::max(area.left(), std::min(outer.left(), area.right() - outer.width()));
+    const int y = std::max(area.top(), std::min(outer.top(), area.bottom() - outer.height()));
+    if (x != outer.left() || y != outer.top()) {
+        move(x, y);
+    }
 }
 
 // Builds the game's tables, then the whole-game figures of the table on show, off the

@@ -29,6 +29,7 @@
 #include "state/game_state.h"
 
 class QKeyEvent;
+class QResizeEvent;
 class QLabel;
 
 namespace marivale {
@@ -83,6 +84,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildLayout();

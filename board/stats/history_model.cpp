@@ -87,7 +87,7 @@ QString HistoryModel::text(const HandRecord& hand, int column) const {
         return hand.played ? cards(hand.finalCards) : QString();
     case Result:
         if (!hand.finished) {
-            return tr("abandoned");
+            return QString::fromStdString(unsettledText(hand));
         }
         return hand.name.empty() ? tr("nothing") : QString::fromStdString(hand.name);
     case Paid:

@@ -58,6 +58,13 @@ std::string doubleUpText(const HandRecord& hand) {
     return {};
 }
 
+std::string unsettledText(const HandRecord& hand) {
+    if (hand.finished) {
+        return {};
+    }
+    return hand.abandoned ? "abandoned" : "in play";
+}
+
 std::string historyCsv(const std::vector<HandRecord>& history) {
     std::string csv(kHeader);
     for (const HandRecord& hand : history) {
@@ -70,7 +77,7 @@ std::string historyCsv(const std::vector<HandRecord>& history) {
             cardsText(hand.dealt),
             hand.played ? cardsText(hand.dealt, hand.holds) : std::string{},
             hand.played ? cardsText(hand.finalCards) : std::string{},
-            hand.finished ? hand.name : std::string("abandoned"),
+            hand.finished ? hand.name : unsettledText(hand),
             fixedText(hand.paid, 2),
             doubleUpText(hand),
             fixedText(hand.bonus, 2),

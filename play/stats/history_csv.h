@@ -18,6 +18,9 @@ std::string fixedText(double value, int decimals);
 // "took score", "no guess", "won x4", "lost"; empty when Double Up was not offered.
 std::string doubleUpText(const HandRecord& hand);
 
+// "in play" for a hand still open, "abandoned" for one the board closed on; empty once settled.
+std::string unsettledText(const HandRecord& hand);
+
 // A header row, then one row per hand in the order played, each line ended by "\n".
 std::string historyCsv(const std::vector<HandRecord>& history);
 

@@ -212,6 +212,9 @@ void SessionStats::cashedOut(float amount) {
 
 // Closing the board abandons a hand in play: its bet stays counted, it paid nothing.
 void SessionStats::visitEnded(float cashedOut) {
+    if (HandRecord* hand = openHand()) {
+        hand->abandoned = true;
+    }
     handOpen_ = false;
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += cashedOut;

@@ -40,7 +40,8 @@ struct HandRecord {
     int doubleFactor{0};
     float bonus{0.0f};
     bool finished{false};
-    bool trainer{false}; // trainer mode was on when the player drew
+    bool abandoned{false}; // the board closed before the hand was settled
+    bool trainer{false};   // trainer mode was on when the player drew
     std::optional<HoldJudgement> judgement{};
 };
 

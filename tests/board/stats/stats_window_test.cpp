@@ -46,6 +46,10 @@ QString summary(const StatsWindow& window, SummaryRow row, int column) {
     return item ? item->text() : QStringLiteral("<empty>");
 }
 
+const QAbstractItemModel* history(const StatsWindow& window) {
+    return window.findChild<QTableView*>(QStringLiteral("HandHistory"))->model();
+}
+
 QXYSeries* series(const StatsWindow& window, const QString& name) {
     auto* view = window.findChild<QChartView*>(QStringLiteral("CreditChart"));
     for (QAbstractSeries* s : view->chart()->series()) {
@@ -108,6 +112,11 @@ void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
     auto* frequencies = window->findChild<QTableWidget*>(QStringLiteral("HandFrequencies"));
     const int pairRow = frequencies->rowCount() - 1;
     QCOMPARE(frequencies->item(pairRow, 1)->text(), QStringLiteral("1"));
+    f.script("2c 5d 9h Js Kd");
+    f.click("DrawDeal");
+    QTRY_COMPARE(history(*window)->index(0, HistoryModel::Result).data().toString(),
+                 QStringLiteral("in play"));
+    f.click("Stand");
 
     const float credits = f.state.Credits;
     window->close();
@@ -166,8 +175,7 @@ void StatsWindowTest::trainerAndHistoryShowTheCosts() {
     QTRY_COMPARE(f.board->findChild<QLabel*>(QStringLiteral("TrainerTally"))->text(),
                  QStringLiteral("Mistakes: 1   Cost: $1.67"));
 
-    const QAbstractItemModel* model =
-        window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model();
+    const QAbstractItemModel* model = history(*window);
     QCOMPARE(model->rowCount(), 3);
     QCOMPARE(model->index(0, HistoryModel::Number).data().toString(), QStringLiteral("3"));
     QCOMPARE(model->index(0, HistoryModel::Result).data().toString(),
@@ -210,7 +218,7 @@ void StatsWindowTest::runFiguresOutliveABoard() {
     QCOMPARE(summary(*window, SummaryRow::Hands, kVisitColumn), QStringLiteral("1"));
     QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
     QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
-    QCOMPARE(window->findChild<QTableView*>(QStringLiteral("HandHistory"))->model()->rowCount(), 3);
+    QCOMPARE(history(*window)->rowCount(), 3);
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the

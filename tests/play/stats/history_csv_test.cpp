@@ -59,6 +59,7 @@ TEST(HistoryCsv, OneRowPerHandAfterTheHeader) {
     abandoned.game = GameId::DeucesWild;
     abandoned.bet = 0.25f;
     abandoned.dealt = {1, 17, 34, 49, 25};
+    abandoned.abandoned = true;
 
     const std::vector<std::string> rows = lines(historyCsv({flush, bonus, abandoned}));
     ASSERT_EQ(rows.size(), 4u);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 // Marivale
+#include "play/stats/history_csv.h"
 #include "play/stats/session_stats.h"
 #include "play/strategy/hold_judgement.h"
 #include "tests/support/fake_view.h"
@@ -117,7 +118,8 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_DOUBLE_EQ(*expectedReturn(stats.games(), returns), 0.92);
 }
 
-// A refused deal or cash-out leaves no trace; closing mid-hand abandons the hand.
+// A refused deal or cash-out leaves no trace; a hand dealt is in play until closing the board
+// abandons it.
 TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     SessionStats stats;
     Table t(JB, 0.0f, 1.0f, &stats);
@@ -126,7 +128,13 @@ TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     t.buy(4);
     t.script("2c 5d 9h Js Kd");
     t.controller.drawDealClicked();
+    const auto result = [&stats] {
+        return historyCsv(stats.history()).find(",in play,") != std::string::npos;
+    };
+    EXPECT_TRUE(result()) << historyCsv(stats.history());
     t.controller.unload();
+    EXPECT_FALSE(result());
+    EXPECT_TRUE(stats.history()[0].abandoned);
     EXPECT_EQ(stats.visit().hands, 1);
     EXPECT_EQ(stats.visit().drawn, 0);
     EXPECT_FLOAT_EQ(stats.visit().bet, 1.0f);

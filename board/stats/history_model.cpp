@@ -7,6 +7,7 @@
 #include <QColor>
 
 // Marivale
+#include "board/stats/stats_tables.h"
 #include "engine/card_text.h"
 #include "play/game_variant.h"
 #include "play/stats/history_csv.h"
@@ -73,7 +74,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
 QString HistoryModel::text(const HandRecord& hand, int column) const {
     switch (column) {
     case Number:
-        return QString::number(hand.number);
+        return statsNumber(hand.number);
     case Game:
         return QString::fromUtf8(variantFor(hand.game).title.data(),
                                  static_cast<qsizetype>(variantFor(hand.game).title.size()));

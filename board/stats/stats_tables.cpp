@@ -10,6 +10,7 @@
 // Marivale
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
+#include "play/stats/history_csv.h"
 #include "ui/money_text.h"
 
 namespace marivale {
@@ -20,7 +21,7 @@ const QString kNone = QStringLiteral("-");
 const QString kComputing = QStringLiteral("\u2026");
 
 QString percent(std::optional<double> ratio, const QString& otherwise = kNone) {
-    return ratio ? QString::number(100.0 * *ratio, 'f', 2) + QLatin1Char('%') : otherwise;
+    return ratio ? statsNumber(100.0 * *ratio, 2) + QLatin1Char('%') : otherwise;
 }
 
 void setCell(QTableWidget& table, int row, int column, const QString& text,
@@ -69,10 +70,14 @@ QString trainerCell(const TrainerSummary& summary, bool cost) {
     if (summary.pending > 0) {
         return kComputing;
     }
-    return cost ? moneyText(summary.cost) : QString::number(summary.mistakes);
+    return cost ? moneyText(summary.cost) : statsNumber(summary.mistakes);
 }
 
 } // namespace
+
+QString statsNumber(double value, int decimals, bool plusSign) {
+    return QString::fromStdString(groupedText(value, decimals, plusSign));
+}
 
 QTableWidget* makeSummaryTable(QWidget* parent) {
     auto* table = makeTable(static_cast<int>(SummaryRow::Count),
@@ -109,20 +114,21 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
         const auto row = [&](SummaryRow r, const QString& text) {
             setCell(table, static_cast<int>(r), column, text);
         };
-        row(SummaryRow::Hands, QString::number(t.hands));
+        row(SummaryRow::Hands, statsNumber(t.hands));
         row(SummaryRow::Bet, moneyText(t.bet));
         row(SummaryRow::Paid, moneyText(t.paid));
         row(SummaryRow::Return, percent(t.actualReturn()));
         row(SummaryRow::ExactReturn,
             t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));
-        row(SummaryRow::DoubleUpOffered, QString::number(t.doubleUp.offered));
-        row(SummaryRow::DoubleUpPlayed, QString::number(t.doubleUp.played));
-        row(SummaryRow::DoubleUpWon, QString::number(t.doubleUp.won));
+        row(SummaryRow::DoubleUpOffered, statsNumber(t.doubleUp.offered));
+        row(SummaryRow::DoubleUpPlayed, statsNumber(t.doubleUp.played));
+        row(SummaryRow::DoubleUpWon, statsNumber(t.doubleUp.won));
         row(SummaryRow::DoubleUpHighest,
-            t.doubleUp.highestFactor > 1 ? QStringLiteral("\u00d7%1").arg(t.doubleUp.highestFactor)
-                                         : kNone);
-        row(SummaryRow::Bonuses, QString::number(t.bonuses));
-        row(SummaryRow::BonusFactor, factor ? QString::number(*factor, 'f', 1) : kNone);
+            t.doubleUp.highestFactor > 1
+                ? QStringLiteral("\u00d7%1").arg(statsNumber(t.doubleUp.highestFactor))
+                : kNone);
+        row(SummaryRow::Bonuses, statsNumber(t.bonuses));
+        row(SummaryRow::BonusFactor, factor ? statsNumber(*factor, 1) : kNone);
         row(SummaryRow::Mistakes, trainerCell(trainer[c], false));
         row(SummaryRow::MistakeCost, trainerCell(trainer[c], true));
     }
@@ -150,10 +156,9 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
         setCell(table, row, 0, name, Qt::AlignLeft);
         for (std::size_t t = 0; t < tallies.size(); ++t) {
             const int column = 1 + 2 * static_cast<int>(t);
-            setCell(table, row, column, QString::number(came[t]));
+            setCell(table, row, column, statsNumber(came[t]));
             setCell(table, row, column + 1,
-                    probability ? QString::number(*probability * tallies[t]->drawn, 'f', 2)
-                                : kComputing);
+                    probability ? statsNumber(*probability * tallies[t]->drawn, 2) : kComputing);
         }
     };
     int row = 0;

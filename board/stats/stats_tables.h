@@ -6,6 +6,9 @@
 // Standard library
 #include <optional>
 
+// Qt
+#include <QString>
+
 // Marivale
 #include "engine/odds/game_odds.h"
 #include "play/stats/session_stats.h"
@@ -14,6 +17,9 @@ class QTableWidget;
 class QWidget;
 
 namespace marivale {
+
+// A number of the statistics window, "," between thousands and a "." point whatever the locale.
+QString statsNumber(double value, int decimals = 0, bool plusSign = false);
 
 // Rows of the summary table, top to bottom.
 enum class SummaryRow {

@@ -119,8 +119,8 @@ void StatsWindow::refresh() {
     const std::string_view name = facts(stats_.visitGame()).name;
     heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
                           .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
-                          .arg(stats_.visits())
-                          .arg(stats_.history().size()));
+                          .arg(statsNumber(stats_.visits()))
+                          .arg(statsNumber(static_cast<double>(stats_.history().size()))));
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {
         returns[gameIndex(game)] = exactReturn(game);

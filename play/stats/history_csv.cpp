@@ -1,6 +1,7 @@
 #include "play/stats/history_csv.h"
 
 // Standard library
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -40,6 +41,19 @@ std::string fixedText(double value, int decimals) {
         return "?";
     }
     return std::string(buffer.data(), end);
+}
+
+std::string groupedText(double value, int decimals, bool plusSign) {
+    std::string digits = fixedText(value < 0.0 ? -value : value, decimals);
+    const bool zero = digits.find_first_not_of("0.") == std::string::npos;
+    const auto point = std::min(digits.find('.'), digits.size());
+    for (auto at = static_cast<std::ptrdiff_t>(point) - 3; at > 0; at -= 3) {
+        digits.insert(static_cast<std::size_t>(at), 1, ',');
+    }
+    if (zero) {
+        return digits;
+    }
+    return (value < 0.0 ? "-" : plusSign ? "+" : "") + digits;
 }
 
 std::string doubleUpText(const HandRecord& hand) {

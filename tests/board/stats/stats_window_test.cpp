@@ -86,6 +86,7 @@ private slots:
     void chartHasAPointPerHand();
     void trainerAndHistoryShowTheCosts();
     void runFiguresOutliveABoard();
+    void numbersIgnoreTheLocale();
     void textsWholeAndReadable();
 };
 
@@ -219,6 +220,26 @@ void StatsWindowTest::runFiguresOutliveABoard() {
     QCOMPARE(summary(*window, SummaryRow::Hands, kRunColumn), QStringLiteral("3"));
     QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$3.00"));
     QCOMPARE(history(*window)->rowCount(), 3);
+}
+
+// A thousand hands read "1,000" on a German desktop too, which would write "1.000".
+void StatsWindowTest::numbersIgnoreTheLocale() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    SessionStats stats;
+    stats.visitStarted(GameId::JacksOrBetter, 0.0f);
+    for (int hand = 0; hand < 1000; ++hand) {
+        stats.dealt({0, 1, 2, 3, 4}, 1.0f, 0.0f);
+        stats.settled(0.0f, 0.0f);
+    }
+    StatsWindow window(stats);
+    QCOMPARE(summary(window, SummaryRow::Hands, kRunColumn), QStringLiteral("1,000"));
+    QCOMPARE(summary(window, SummaryRow::Return, kVisitColumn), QStringLiteral("0.00%"));
+    QCOMPARE(history(window)->index(0, HistoryModel::Number).data().toString(),
+             QStringLiteral("1,000"));
+    QVERIFY(window.findChild<QLabel*>(QStringLiteral("StatsHeading"))
+                ->text()
+                .endsWith(QStringLiteral("1,000 hands in the run")));
+    QLocale::setDefault(QLocale::c());
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the

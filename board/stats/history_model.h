@@ -41,6 +41,9 @@ public:
     // The model's history changed: show it again.
     void refresh();
 
+    // The widest texts the column can show, to size the view before the hands that show them.
+    static QStringList sampleTexts(int column);
+
 private:
     QString text(const HandRecord& hand, int column) const;
 

@@ -1,6 +1,7 @@
 #include "board/stats/stats_window.h"
 
 // Standard library
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
@@ -30,6 +33,29 @@
 #include "play/strategy/hold_judgement.h"
 
 namespace marivale {
+namespace {
+
+constexpr QSize kOpeningSize(900, 680);
+
+// The width the hand history needs to show every column whole, at its font, for the widest
+// texts of each column.
+int historyWidth(const QTableView& view) {
+    const QFontMetrics metrics = view.fontMetrics();
+    const QStyle& style = *view.style();
+    const int margin = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+    int width =
+        2 * view.frameWidth() + style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
+    for (int column = 0; column < HistoryModel::Count; ++column) {
+        int widest = view.horizontalHeader()->sectionSizeHint(column);
+        for (const QString& text : HistoryModel::sampleTexts(column)) {
+            widest = std::max(widest, metrics.horizontalAdvance(text) + margin);
+        }
+        width += widest;
+    }
+    return width;
+}
+
+} // namespace
 
 StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     : QWidget(parent, Qt::Tool), stats_(stats) {
@@ -81,7 +107,11 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);
     stats_.setListener([this] { scheduleRefresh(); });
     refresh();
-    resize(900, 680);
+    // Opens wide enough for every column of the history, as far as the screen allows.
+    history_->setMinimumWidth(historyWidth(*history_));
+    const int width = std::max(kOpeningSize.width(), minimumSizeHint().width());
+    history_->setMinimumWidth(0);
+    resize(std::min(width, screen()->availableGeometry().width()), kOpeningSize.height());
 }
 
 StatsWindow::~StatsWindow() {

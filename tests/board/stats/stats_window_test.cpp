@@ -11,8 +11,11 @@
 #include <QChartView>
 #include <QCheckBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScatterSeries>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -157,7 +160,7 @@ void StatsWindowTest::chartHasAPointPerHand() {
 
 // Hands played while the Strategy window's trainer mode is on count their mistakes and cost, and
 // the Strategy window shows the tally the statistics keep. The history shows every hand, the
-// newest first, with the cost of its hold.
+// newest first, with the cost of its hold in money or "none".
 void StatsWindowTest::trainerAndHistoryShowTheCosts() {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     BoardFixture f(GameId::JacksOrBetter);
@@ -181,8 +184,8 @@ void StatsWindowTest::trainerAndHistoryShowTheCosts() {
     QCOMPARE(model->index(0, HistoryModel::Number).data().toString(), QStringLiteral("3"));
     QCOMPARE(model->index(0, HistoryModel::Result).data().toString(),
              QStringLiteral("Four of a Kind"));
-    QCOMPARE(model->index(0, HistoryModel::Cost).data().toString(), QStringLiteral("$0.0000"));
-    QCOMPARE(model->index(2, HistoryModel::Cost).data().toString(), QStringLiteral("$1.6702"));
+    QCOMPARE(model->index(0, HistoryModel::Cost).data().toString(), QStringLiteral("none"));
+    QCOMPARE(model->index(2, HistoryModel::Cost).data().toString(), QStringLiteral("$1.67"));
     QCOMPARE(model->index(2, HistoryModel::Held).data().toString(),
              model->index(2, HistoryModel::Dealt).data().toString());
 
@@ -243,7 +246,7 @@ void StatsWindowTest::numbersIgnoreTheLocale() {
 }
 
 // The window lays itself out for the desktop's font: each text whole and readable, with the
-// figures of a Treasure Trips visit in every row.
+// figures of a Treasure Trips visit in every row, and the history without scrolling.
 void StatsWindowTest::textsWholeAndReadable() {
     BoardFixture f(GameId::TreasureTrips, 0.0f, 1.0f);
     f.buy(0);
@@ -256,13 +259,21 @@ void StatsWindowTest::textsWholeAndReadable() {
     });
     f.click("Stand");
     playHand(f, "As Ks Qs Js 2c", 0b01111);
+    playHand(f, "Tc Td Th Ts Qs", 0b00111);
     StatsWindow* window = openStats(*f.board);
     QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
     QCOMPARE(summary(*window, SummaryRow::Bonuses, kVisitColumn), QStringLiteral("1"));
-    const QStringList cut = marivale::testing::cutTexts(*window);
-    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
-    const QStringList illegible = marivale::testing::illegibleTexts(*window);
-    QVERIFY2(illegible.isEmpty(), qPrintable(illegible.join('\n')));
+    for (const int tab : {0, 1}) {
+        window->findChild<QTabWidget*>(QStringLiteral("StatsTabs"))->setCurrentIndex(tab);
+        QCoreApplication::processEvents();
+        const QStringList cut = marivale::testing::cutTexts(*window);
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+        const QStringList illegible = marivale::testing::illegibleTexts(*window);
+        QVERIFY2(illegible.isEmpty(), qPrintable(illegible.join('\n')));
+    }
+    // Every column of the history shows at the opening size, without scrolling.
+    const auto* view = window->findChild<QTableView*>(QStringLiteral("HandHistory"));
+    QVERIFY(!view->horizontalScrollBar()->isVisible());
 }
 
 QTEST_MAIN(StatsWindowTest)

@@ -7,14 +7,10 @@
 #include "engine/odds/hold_odds.h"
 
 namespace marivale {
-namespace {
 
-// A hand the odds can judge: the player chose a hold on five good cards.
 bool judgeable(const HandRecord& hand) {
     return hand.played && odds::isValidDeal(deckSize(hand.game), hand.dealt);
 }
-
-} // namespace
 
 std::optional<double> Tally::actualReturn() const {
     if (!(bet > 0.0f)) {

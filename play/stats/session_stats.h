@@ -154,6 +154,9 @@ private:
     std::function<void()> listener_{};
 };
 
+// A hand the odds can judge: the player chose a hold on five good cards.
+bool judgeable(const HandRecord& hand);
+
 // The return the player could expect over a set of games, each weighted by what was bet on it;
 // nothing before a bet or while a game with bets has no known return.
 std::optional<double>

@@ -2,6 +2,8 @@
 
 // Standard library
 #include <array>
+#include <functional>
+#include <utility>
 
 // Qt
 #include <QHeaderView>
@@ -73,6 +75,30 @@ QString trainerCell(const TrainerSummary& summary, bool cost) {
     return cost ? moneyText(summary.cost) : statsNumber(summary.mistakes);
 }
 
+// The result, the best play's average, the luck and the mistakes' cost, in bets; a dash before
+// a hand is settled and an ellipsis while odds or judgements are being worked out.
+void luckRows(const LuckSummary& luck, const std::function<void(SummaryRow, QString)>& row) {
+    const auto bets = [](std::optional<double> value) {
+        return value ? statsNumber(*value, 2, true) : kComputing;
+    };
+    if (luck.hands == 0) {
+        for (const SummaryRow r : {SummaryRow::ResultBets, SummaryRow::ExpectedBets,
+                                   SummaryRow::Luck, SummaryRow::SkillCost}) {
+            row(r, kNone);
+        }
+        return;
+    }
+    row(SummaryRow::ResultBets, bets(luck.result));
+    row(SummaryRow::ExpectedBets, bets(luck.expected));
+    const auto deviations = luck.luckDeviations();
+    row(SummaryRow::Luck, luck.luck()
+                              ? QObject::tr("%1 (%2 SD)")
+                                    .arg(bets(luck.luck()), deviations ? bets(deviations) : kNone)
+                              : kComputing);
+    const auto cost = luck.skillCost();
+    row(SummaryRow::SkillCost, cost ? statsNumber(*cost, 2) : kComputing);
+}
+
 } // namespace
 
 QString statsNumber(double value, int decimals, bool plusSign) {
@@ -89,6 +115,10 @@ QTableWidget* makeSummaryTable(QWidget* parent) {
         QObject::tr("Total paid"),
         QObject::tr("Return"),
         QObject::tr("Exact return, best play"),
+        QObject::tr("Result, settled hands (bets)"),
+        QObject::tr("Expected, best play (bets)"),
+        QObject::tr("Luck (bets, SD)"),
+        QObject::tr("Skill: mistakes' cost, all holds (bets)"),
         QObject::tr("Double Up offered"),
         QObject::tr("Double Up played"),
         QObject::tr("Double Up won"),
@@ -98,11 +128,27 @@ QTableWidget* makeSummaryTable(QWidget* parent) {
         QObject::tr("Trainer mistakes"),
         QObject::tr("Cost of the mistakes"),
     });
+    const std::pair<SummaryRow, QString> tips[] = {
+        {SummaryRow::ResultBets, QObject::tr("What the settled hands paid less their bets, each "
+                                             "over its own bet, added up")},
+        {SummaryRow::ExpectedBets,
+         QObject::tr("What the same hands return on average when every hold is the best")},
+        {SummaryRow::Luck,
+         QObject::tr("The result less what the holds played return on average, in bets and in "
+                     "standard deviations of the result; shown once every hold is judged")},
+        {SummaryRow::SkillCost,
+         QObject::tr("What the settled hands' holds gave away against the best holds, trainer "
+                     "mode or not; shown once every hold is judged")},
+    };
+    for (const auto& [row, tip] : tips) {
+        table->verticalHeaderItem(static_cast<int>(row))->setToolTip(tip);
+    }
     return table;
 }
 
 void showSummaryTable(QTableWidget& table, const SessionStats& stats,
-                      std::optional<double> visitExact, std::optional<double> runExact) {
+                      std::optional<double> visitExact, std::optional<double> runExact,
+                      const std::array<LuckSummary, 2>& luck) {
     const Tally run = stats.run();
     const std::array<const Tally*, 2> tallies{&stats.visit(), &run};
     const std::array<std::optional<double>, 2> exact{visitExact, runExact};
@@ -120,6 +166,7 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
         row(SummaryRow::Return, percent(t.actualReturn()));
         row(SummaryRow::ExactReturn,
             t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));
+        luckRows(luck[c], row);
         row(SummaryRow::DoubleUpOffered, statsNumber(t.doubleUp.offered));
         row(SummaryRow::DoubleUpPlayed, statsNumber(t.doubleUp.played));
         row(SummaryRow::DoubleUpWon, statsNumber(t.doubleUp.won));

@@ -29,6 +29,7 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "play/stats/history_csv.h"
+#include "play/stats/luck.h"
 #include "play/strategy/game_odds_cache.h"
 #include "play/strategy/hold_judgement.h"
 
@@ -151,25 +152,25 @@ void StatsWindow::refresh() {
                           .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
                           .arg(statsNumber(stats_.visits()))
                           .arg(statsNumber(static_cast<double>(stats_.history().size()))));
+    OddsByGame gameOdds{};
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {
-        returns[gameIndex(game)] = exactReturn(game);
+        const auto& found = gameOdds[gameIndex(game)] = cachedGameOdds(game);
+        if (found) {
+            returns[gameIndex(game)] = found->expectedReturn;
+        }
     }
-    showSummaryTable(*summary_, stats_, exactReturn(stats_.visitGame()),
-                     expectedReturn(stats_.games(), returns));
-    showFrequencyTable(*frequencies_, stats_, cachedGameOdds(stats_.visitGame()));
-    chart_->showVisit(stats_);
+    const auto& history = stats_.history();
+    showSummaryTable(*summary_, stats_, returns[gameIndex(stats_.visitGame())],
+                     expectedReturn(stats_.games(), returns),
+                     {luckOf(history, stats_.visits(), gameOdds), luckOf(history, 0, gameOdds)});
+    const auto& visitOdds = gameOdds[gameIndex(stats_.visitGame())];
+    showFrequencyTable(*frequencies_, stats_, visitOdds);
+    chart_->showVisit(stats_, visitOdds);
     historyModel_->refresh();
     if (isVisible()) {
         startWork();
     }
-}
-
-std::optional<double> StatsWindow::exactReturn(GameId game) const {
-    if (const auto found = cachedGameOdds(game)) {
-        return found->expectedReturn;
-    }
-    return std::nullopt;
 }
 
 // Judges the holds still waiting and works out the whole-game odds of every game played, off

@@ -1,7 +1,7 @@
 #pragma once
 
 // The statistics of a run, recorded from the play controller's events: a tally of the current
-// visit and of every game over the whole run, the credits after each hand of the visit, and the
+// visit and of every game over the whole run, the visit's result after each hand, and the
 // history of every hand. It only listens; nothing here changes the board or is saved. The cost
 // of each hold is filled in later, from the exact odds, by whoever can spare the time.
 
@@ -79,7 +79,7 @@ struct TrainerSummary {
 
 enum class CreditMarkKind : std::uint8_t { Purchase, CashOut };
 
-// A purchase or a cash-out on the chart: after so many hands of the visit, the credits it left.
+// A purchase or a cash-out: after so many settled hands of the visit, the credits it left.
 struct CreditMark {
     CreditMarkKind kind{CreditMarkKind::Purchase};
     int afterHands{0};
@@ -122,10 +122,9 @@ public:
     const std::array<Tally, kGameCount>& games() const { return run_; }
     Tally run() const;
 
-    // The credits the visit started with, then after each of its hands, and its purchases and
-    // cash-outs.
-    float visitStartCredits() const { return startCredits_; }
-    const std::vector<float>& visitCredits() const { return credits_; }
+    // The visit's result in bets after each of its settled hands (what each paid less its bet,
+    // over its bet, added up), and its purchases and cash-outs.
+    const std::vector<double>& visitResults() const { return results_; }
     const std::vector<CreditMark>& visitMarks() const { return marks_; }
 
     // Every hand of the run, oldest first.
@@ -145,8 +144,7 @@ private:
     GameId visitGame_{GameId::JacksOrBetter};
     Tally visit_{};
     std::array<Tally, kGameCount> run_{};
-    float startCredits_{0.0f};
-    std::vector<float> credits_{};
+    std::vector<double> results_{};
     std::vector<CreditMark> marks_{};
     std::vector<HandRecord> history_{};
     bool handOpen_{false};

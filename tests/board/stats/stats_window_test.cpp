@@ -1,18 +1,22 @@
 // The statistics window on real boards: F3 opens it beside the board and it changes nothing,
-// its figures follow the hands, the chart has a point per hand with the purchases and cash-outs
-// marked, trainer mode's mistakes and the history show the cost of each hold, the export reads
-// back under a comma locale, and the run's figures outlive a board.
+// its figures follow the hands, the chart shows the result in bets with the purchases and
+// cash-outs marked and the best play's band beside it, trainer mode's mistakes and the history
+// show the cost of each hold, numbers and the export read the same under a comma locale, and the
+// run's figures outlive a board.
 
 #include <QtTest>
 
 // Qt
 #include <QAbstractItemModel>
+#include <QAreaSeries>
 #include <QChart>
 #include <QChartView>
 #include <QCheckBox>
 #include <QFile>
+#include <QGraphicsTextItem>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineSeries>
 #include <QScatterSeries>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -22,10 +26,12 @@
 #include <QXYSeries>
 
 // Marivale
+#include "board/stats/credit_chart.h"
 #include "board/stats/history_model.h"
 #include "board/stats/stats_tables.h"
 #include "board/stats/stats_window.h"
 #include "play/stats/session_stats.h"
+#include "play/strategy/game_odds_cache.h"
 #include "tests/support/board_fixture.h"
 #include "tests/support/legibility.h"
 #include "tests/support/text_fit.h"
@@ -53,11 +59,10 @@ const QAbstractItemModel* history(const StatsWindow& window) {
     return window.findChild<QTableView*>(QStringLiteral("HandHistory"))->model();
 }
 
-QXYSeries* series(const StatsWindow& window, const QString& name) {
-    auto* view = window.findChild<QChartView*>(QStringLiteral("CreditChart"));
-    for (QAbstractSeries* s : view->chart()->series()) {
+template <typename S = QXYSeries> S* series(const QChartView& view, const QString& name) {
+    for (QAbstractSeries* s : view.chart()->series()) {
         if (s->objectName() == name) {
-            return qobject_cast<QXYSeries*>(s);
+            return qobject_cast<S*>(s);
         }
     }
     return nullptr;
@@ -86,7 +91,8 @@ class StatsWindowTest : public QObject {
     Q_OBJECT
 private slots:
     void f3OpensAWindowThatChangesNothing();
-    void chartHasAPointPerHand();
+    void chartShowsTheResultInBets();
+    void chartWaitsForTheOdds();
     void trainerAndHistoryShowTheCosts();
     void runFiguresOutliveABoard();
     void numbersIgnoreTheLocale();
@@ -137,25 +143,78 @@ void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
     QVERIFY(!window->isVisible());
 }
 
-void StatsWindowTest::chartHasAPointPerHand() {
+// The chart shows the visit's result in bets with the purchases and the cash-out on the line and,
+// once the game's odds are known, the best play's average in its bands.
+void StatsWindowTest::chartShowsTheResultInBets() {
     BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f);
     f.buy(4); // $20 before the first hand
     for (int hand = 0; hand < 3; ++hand) {
         playHand(f, "2c 5d 9h Js Kd");
     }
     f.buy(6);                      // $5 after the third
-    playHand(f, "2h 5h 9h Jh Kh"); // a flush pays $5
+    playHand(f, "2h 5h 9h Jh Kh"); // a flush pays 5 bets
     playHand(f, "2c 5d 9h Js Kd");
-    f.click("Stand"); // cashes out $25
+    f.click("Stand"); // cashes out
     StatsWindow* window = openStats(*f.board);
-    QXYSeries* credits = series(*window, "Credits");
-    QXYSeries* purchases = series(*window, "Purchases");
-    QXYSeries* cashOuts = series(*window, "CashOuts");
-    QVERIFY(credits && purchases && cashOuts);
-    QCOMPARE(credits->points(), (QList<QPointF>{{1, 19}, {2, 18}, {3, 17}, {4, 26}, {5, 25}}));
-    QCOMPARE(purchases->points(), (QList<QPointF>{{0, 20}, {3, 22}}));
-    QCOMPARE(cashOuts->points(), (QList<QPointF>{{5, 0}}));
-    QVERIFY(qobject_cast<QScatterSeries*>(purchases) != nullptr);
+    QTRY_VERIFY_WITH_TIMEOUT(!window->working(), kOddsTimeoutMs);
+    const auto& chart = *window->findChild<QChartView*>(QStringLiteral("CreditChart"));
+    QCOMPARE(series(chart, "Result")->points(),
+             (QList<QPointF>{{0, 0}, {1, -1}, {2, -2}, {3, -3}, {4, 1}, {5, 0}}));
+    QCOMPARE(series(chart, "Purchases")->points(), (QList<QPointF>{{0, 0}, {3, -3}}));
+    QCOMPARE(series(chart, "CashOuts")->points(), (QList<QPointF>{{5, 0}}));
+
+    // The best play loses 1 - R bets a hand on average, give or take the root of the hands'
+    // variance.
+    const odds::GameOdds odds = cachedGameOdds(GameId::JacksOrBetter).value();
+    QList<QPointF> expected;
+    std::array<QList<QPointF>, 4> edges; // one deviation up and down, then two
+    for (int hand = 0; hand <= 5; ++hand) {
+        const double mean = hand * (odds.expectedReturn - 1.0);
+        const double deviation = std::sqrt(hand * odds.variance);
+        expected.append({double(hand), mean});
+        edges[0].append({double(hand), mean + deviation});
+        edges[1].append({double(hand), mean - deviation});
+        edges[2].append({double(hand), mean + 2 * deviation});
+        edges[3].append({double(hand), mean - 2 * deviation});
+    }
+    QCOMPARE(series(chart, "Expected")->points(), expected);
+    const auto* one = series<QAreaSeries>(chart, "OneDeviation");
+    const auto* two = series<QAreaSeries>(chart, "TwoDeviations");
+    QCOMPARE(one->upperSeries()->points(), edges[0]);
+    QCOMPARE(one->lowerSeries()->points(), edges[1]);
+    QCOMPARE(two->upperSeries()->points(), edges[2]);
+    QCOMPARE(two->lowerSeries()->points(), edges[3]);
+}
+
+// While the odds are worked out the chart shows the result alone and says so; a small range
+// gets labels as fine as it needs, with a "." point under a German locale.
+void StatsWindowTest::chartWaitsForTheOdds() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    SessionStats stats;
+    stats.visitStarted(GameId::JokerWild, 0.0f);
+    for (const float paid : {0.25f, 0.5f, 0.0f, 0.375f}) {
+        stats.dealt({}, 0.25f, 0.0f);
+        stats.settled(paid, 0.0f);
+    }
+    CreditChart chart;
+    chart.showVisit(stats, std::nullopt);
+    chart.resize(640, 400);
+    chart.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&chart));
+    QCOMPARE(series(chart, "Result")->points(),
+             (QList<QPointF>{{0, 0}, {1, 0}, {2, 1}, {3, 0}, {4, 0.5}}));
+    QVERIFY(!series(chart, "Expected")->isVisible());
+    QVERIFY(chart.chart()->title().contains(QStringLiteral("computing")));
+    QStringList labels;
+    for (QGraphicsItem* item : chart.scene()->items()) {
+        if (const auto* text = dynamic_cast<QGraphicsTextItem*>(item)) {
+            labels << text->toPlainText();
+        }
+    }
+    for (const char* label : {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0", "10"}) {
+        QVERIFY2(labels.count(QString::fromLatin1(label)) == 1, qPrintable(labels.join(' ')));
+    }
+    QLocale::setDefault(QLocale::c());
 }
 
 // Hands played while the Strategy window's trainer mode is on count their mistakes and cost, and
@@ -237,6 +296,7 @@ void StatsWindowTest::numbersIgnoreTheLocale() {
     StatsWindow window(stats);
     QCOMPARE(summary(window, SummaryRow::Hands, kRunColumn), QStringLiteral("1,000"));
     QCOMPARE(summary(window, SummaryRow::Return, kVisitColumn), QStringLiteral("0.00%"));
+    QCOMPARE(summary(window, SummaryRow::ResultBets, kRunColumn), QStringLiteral("-1,000.00"));
     QCOMPARE(history(window)->index(0, HistoryModel::Number).data().toString(),
              QStringLiteral("1,000"));
     QVERIFY(window.findChild<QLabel*>(QStringLiteral("StatsHeading"))

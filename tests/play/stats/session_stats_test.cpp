@@ -1,5 +1,5 @@
 // The statistics model fed by a real controller from scripted hands: the visit's and the run's
-// counts, sums and returns, Double Up and the Treasure Hunt, the chart's points and marks, and
+// counts, sums and returns, Double Up and the Treasure Hunt, the running result and marks, and
 // the exact cost of the holds the player made.
 
 #include <gtest/gtest.h>
@@ -55,7 +55,7 @@ TEST(Model, AVisitOfScriptedHands) {
     EXPECT_EQ(v.doubleUp.won, 1);
     EXPECT_EQ(v.doubleUp.highestFactor, 4);
 
-    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{24, 23, 26, 25, 26}));
+    EXPECT_EQ(stats.visitResults(), (std::vector<double>{4, 3, 6, 5, 5})); // in $1 bets
     ASSERT_EQ(stats.visitMarks().size(), 3u);
     const std::vector<CreditMark>& m = stats.visitMarks();
     EXPECT_EQ(m[0].kind, CreditMarkKind::Purchase);
@@ -100,7 +100,7 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_EQ(stats.visits(), 2);
     EXPECT_EQ(stats.visitGame(), DW);
     EXPECT_EQ(stats.visit().hands, 2);
-    EXPECT_EQ(stats.visitCredits().size(), 2u);
+    EXPECT_EQ(stats.visitResults().size(), 2u);
     EXPECT_EQ(stats.game(JB).hands, 2);
     EXPECT_FLOAT_EQ(stats.game(JB).cashedOut, 23.0f);
     const Tally run = stats.run();
@@ -139,7 +139,7 @@ TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     EXPECT_EQ(stats.visit().drawn, 0);
     EXPECT_FLOAT_EQ(stats.visit().bet, 1.0f);
     EXPECT_FLOAT_EQ(stats.visit().cashedOut, 19.0f);
-    EXPECT_TRUE(stats.visitCredits().empty());
+    EXPECT_TRUE(stats.visitResults().empty());
     EXPECT_EQ(stats.visitMarks().size(), 1u); // the purchase
     ASSERT_EQ(stats.history().size(), 1u);
     EXPECT_FALSE(stats.history()[0].finished);
@@ -157,7 +157,7 @@ TEST(Model, TreasureHuntFactors) {
     t.view.chests = {3, 3};
     t.hand("3s 3d 3h 4c Kd", 0x1f);
     EXPECT_EQ(stats.visit().bonuses, 2);
-    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{26, 35}));
+    EXPECT_EQ(stats.visitResults(), (std::vector<double>{6, 15}));
     EXPECT_DOUBLE_EQ(*stats.visit().averageBonusFactor(), 7.5);
     EXPECT_FLOAT_EQ(stats.history()[1].bonus, 9.0f);
     EXPECT_FLOAT_EQ(stats.visit().paid, 2.0f + 15.0f);

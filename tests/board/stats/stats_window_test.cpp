@@ -113,6 +113,9 @@ void StatsWindowTest::f3OpensAWindowThatChangesNothing() {
     QCOMPARE(summary(*window, SummaryRow::Bet, kRunColumn), QStringLiteral("$1.00"));
     QCOMPARE(summary(*window, SummaryRow::Return, kVisitColumn), QStringLiteral("0.00%"));
     QCOMPARE(summary(*window, SummaryRow::ExactReturn, kVisitColumn), QStringLiteral("83.79%"));
+    QCOMPARE(summary(*window, SummaryRow::ResultBets, kVisitColumn), QStringLiteral("-1.00"));
+    QCOMPARE(summary(*window, SummaryRow::ExpectedBets, kRunColumn), QStringLiteral("-0.16"));
+    QVERIFY(summary(*window, SummaryRow::Luck, kVisitColumn).endsWith(QStringLiteral(" SD)")));
     QCOMPARE(summary(*window, SummaryRow::Mistakes, kVisitColumn), QStringLiteral("-"));
 
     // A hand played with the window open shows at once.

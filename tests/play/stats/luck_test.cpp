@@ -30,21 +30,16 @@ HandRecord hand(int visit, GameId game, float bet, float paid, bool finished,
 // Jacks or Better returns 95% with a variance of 12 bets squared, Deuces Wild 101% with 13.
 OddsByGame figures(bool deucesKnown) {
     OddsByGame odds{};
-    odds[gameIndex(JB)] = odds::GameOdds{.game = JB, .expectedReturn = 0.95};
-    odds[gameIndex(JB)]->variance = 12.0;
+    odds[gameIndex(JB)] = odds::GameOdds{.game = JB, .expectedReturn = 0.95, .variance = 12.0};
     if (deucesKnown) {
-        odds[gameIndex(DW)] = odds::GameOdds{.game = DW, .expectedReturn = 1.01};
-        odds[gameIndex(DW)]->variance = 13.0;
+        odds[gameIndex(DW)] = odds::GameOdds{.game = DW, .expectedReturn = 1.01, .variance = 13.0};
     }
     return odds;
 }
 
 struct Expected {
-    int visit;
-    int hands;
-    double result;
-    double expected;
-    double cost;
+    int visit, hands;
+    double result, expected, cost;
     double luck;       // result - (expected - cost)
     double deviations; // luck / sqrt(hands' variance)
 };

@@ -161,6 +161,7 @@ QStringList HistoryModel::sampleTexts(int column) {
         }
         return texts;
     case Bet:
+        return {moneyText(99.99f)};
     case Cost:
         return {moneyText(99.99f), tr("none")};
     case Paid:

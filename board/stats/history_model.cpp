@@ -7,7 +7,10 @@
 #include <QColor>
 
 // Marivale
+#include "board/stats/stats_tables.h"
 #include "engine/card_text.h"
+#include "engine/hand_analysis.h"
+#include "engine/hand_names.h"
 #include "play/game_variant.h"
 #include "play/stats/history_csv.h"
 #include "ui/money_text.h"
@@ -20,6 +23,21 @@ const QColor kMistakeInk(192, 0, 0);
 // The faces of the cards in the mask; "none" for an empty mask.
 QString cards(const HandCards& hand, unsigned mask = ~0u) {
     return QString::fromStdString(cardsText(hand, mask, CardForm::Face));
+}
+
+QString title(GameId game) {
+    const std::string_view text = variantFor(game).title;
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Money for a cost; "none" for a hold as good as the best, and a cost below a cent says so.
+QString costText(const HoldJudgement& judgement) {
+    constexpr float kCent = 0.01f;
+    if (!judgement.mistake) {
+        return HistoryModel::tr("none");
+    }
+    return judgement.cost < kCent / 2 ? QStringLiteral("<") + moneyText(kCent)
+                                      : moneyText(judgement.cost);
 }
 
 } // namespace
@@ -81,10 +99,9 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
 QString HistoryModel::text(const HandRecord& hand, int column) const {
     switch (column) {
     case Number:
-        return QString::number(hand.number);
+        return statsNumber(hand.number);
     case Game:
-        return QString::fromUtf8(variantFor(hand.game).title.data(),
-                                 static_cast<qsizetype>(variantFor(hand.game).title.size()));
+        return title(hand.game);
     case Bet:
         return moneyText(hand.bet);
     case Dealt:
@@ -95,7 +112,7 @@ QString HistoryModel::text(const HandRecord& hand, int column) const {
         return hand.played ? cards(hand.finalCards) : QString();
     case Result:
         if (!hand.finished) {
-            return tr("abandoned");
+            return QString::fromStdString(unsettledText(hand));
         }
         return hand.name.empty() ? tr("nothing") : QString::fromStdString(hand.name);
     case Paid:
@@ -107,9 +124,56 @@ QString HistoryModel::text(const HandRecord& hand, int column) const {
                : hand.played  ? QStringLiteral("\u2026")
                               : QString();
     case Cost:
-        return hand.judgement ? QStringLiteral("$") +
-                                    QString::fromStdString(fixedText(hand.judgement->cost, 4))
-                              : QString();
+        return hand.judgement ? costText(*hand.judgement) : QString();
+    default:
+        return {};
+    }
+}
+
+QStringList HistoryModel::sampleTexts(int column) {
+    constexpr CardCode kTen = makeCard(Rank::Ten, Suit::Clubs);
+    constexpr HandCards kTens{kTen, kTen + kRanksPerSuit, kTen + 2 * kRanksPerSuit,
+                              kTen + 3 * kRanksPerSuit, makeCard(Rank::Queen, Suit::Spades)};
+    QStringList texts;
+    HandRecord hand;
+    switch (column) {
+    case Number:
+        return {statsNumber(99999)};
+    case Game:
+        for (const GameId game : kAllGames) {
+            texts << title(game);
+        }
+        return texts;
+    case Dealt:
+    case Held:
+    case Final:
+    case Best:
+        return {cards(kTens)};
+    case Result:
+        texts << tr("nothing") << QString::fromStdString(unsettledText(hand));
+        hand.abandoned = true;
+        texts << QString::fromStdString(unsettledText(hand));
+        for (const GameId game : kAllGames) {
+            for (int code = 1; code <= topCode(game); ++code) {
+                const std::string_view name =
+                    HandName(game, static_cast<std::uint8_t>(code), GameState{}, false);
+                texts << QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+            }
+        }
+        return texts;
+    case DoubleUp:
+        hand.doubleFactor = 1024;
+        for (const auto result : {DoubleUpResult::TookScore, DoubleUpResult::Won}) {
+            hand.doubleUp = result;
+            texts << QString::fromStdString(doubleUpText(hand));
+        }
+        return texts;
+    case Bet:
+        return {moneyText(99.99f)};
+    case Cost:
+        return {moneyText(99.99f), tr("none")};
+    case Paid:
+        return {moneyText(99999.99f)};
     default:
         return {};
     }

@@ -43,6 +43,9 @@ public:
     // The hand on a row; nothing past the last.
     const HandRecord* hand(int row) const;
 
+    // The widest texts the column can show, to size the view before the hands that show them.
+    static QStringList sampleTexts(int column);
+
 private:
     QString text(const HandRecord& hand, int column) const;
 

@@ -2,6 +2,8 @@
 
 // Standard library
 #include <array>
+#include <functional>
+#include <utility>
 
 // Qt
 #include <QHeaderView>
@@ -10,6 +12,7 @@
 // Marivale
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
+#include "play/stats/history_csv.h"
 #include "ui/money_text.h"
 
 namespace marivale {
@@ -20,7 +23,7 @@ const QString kNone = QStringLiteral("-");
 const QString kComputing = QStringLiteral("\u2026");
 
 QString percent(std::optional<double> ratio, const QString& otherwise = kNone) {
-    return ratio ? QString::number(100.0 * *ratio, 'f', 2) + QLatin1Char('%') : otherwise;
+    return ratio ? statsNumber(100.0 * *ratio, 2) + QLatin1Char('%') : otherwise;
 }
 
 void setCell(QTableWidget& table, int row, int column, const QString& text,
@@ -69,10 +72,38 @@ QString trainerCell(const TrainerSummary& summary, bool cost) {
     if (summary.pending > 0) {
         return kComputing;
     }
-    return cost ? moneyText(summary.cost) : QString::number(summary.mistakes);
+    return cost ? moneyText(summary.cost) : statsNumber(summary.mistakes);
+}
+
+// The result, the best play's average, the luck and the mistakes' cost, in bets; a dash before
+// a hand is settled and an ellipsis while odds or judgements are being worked out.
+void luckRows(const LuckSummary& luck, const std::function<void(SummaryRow, QString)>& row) {
+    const auto bets = [](std::optional<double> value) {
+        return value ? statsNumber(*value, 2, true) : kComputing;
+    };
+    if (luck.hands == 0) {
+        for (const SummaryRow r : {SummaryRow::ResultBets, SummaryRow::ExpectedBets,
+                                   SummaryRow::Luck, SummaryRow::SkillCost}) {
+            row(r, kNone);
+        }
+        return;
+    }
+    row(SummaryRow::ResultBets, bets(luck.result));
+    row(SummaryRow::ExpectedBets, bets(luck.expected));
+    const auto deviations = luck.luckDeviations();
+    row(SummaryRow::Luck, luck.luck()
+                              ? QObject::tr("%1 (%2 SD)")
+                                    .arg(bets(luck.luck()), deviations ? bets(deviations) : kNone)
+                              : kComputing);
+    const auto cost = luck.skillCost();
+    row(SummaryRow::SkillCost, cost ? statsNumber(*cost, 2) : kComputing);
 }
 
 } // namespace
+
+QString statsNumber(double value, int decimals, bool plusSign) {
+    return QString::fromStdString(groupedText(value, decimals, plusSign));
+}
 
 QTableWidget* makeSummaryTable(QWidget* parent) {
     auto* table = makeTable(static_cast<int>(SummaryRow::Count),
@@ -84,6 +115,10 @@ QTableWidget* makeSummaryTable(QWidget* parent) {
         QObject::tr("Total paid"),
         QObject::tr("Return"),
         QObject::tr("Exact return, best play"),
+        QObject::tr("Result, settled hands (bets)"),
+        QObject::tr("Expected, best play (bets)"),
+        QObject::tr("Luck (bets, SD)"),
+        QObject::tr("Skill: mistakes' cost, all holds (bets)"),
         QObject::tr("Double Up offered"),
         QObject::tr("Double Up played"),
         QObject::tr("Double Up won"),
@@ -93,11 +128,27 @@ QTableWidget* makeSummaryTable(QWidget* parent) {
         QObject::tr("Trainer mistakes"),
         QObject::tr("Cost of the mistakes"),
     });
+    const std::pair<SummaryRow, QString> tips[] = {
+        {SummaryRow::ResultBets, QObject::tr("What the settled hands paid less their bets, each "
+                                             "over its own bet, added up")},
+        {SummaryRow::ExpectedBets,
+         QObject::tr("What the same hands return on average when every hold is the best")},
+        {SummaryRow::Luck,
+         QObject::tr("The result less what the holds played return on average, in bets and in "
+                     "standard deviations of the result; shown once every hold is judged")},
+        {SummaryRow::SkillCost,
+         QObject::tr("What the settled hands' holds gave away against the best holds, trainer "
+                     "mode or not; shown once every hold is judged")},
+    };
+    for (const auto& [row, tip] : tips) {
+        table->verticalHeaderItem(static_cast<int>(row))->setToolTip(tip);
+    }
     return table;
 }
 
 void showSummaryTable(QTableWidget& table, const SessionStats& stats,
-                      std::optional<double> visitExact, std::optional<double> runExact) {
+                      std::optional<double> visitExact, std::optional<double> runExact,
+                      const std::array<LuckSummary, 2>& luck) {
     const Tally run = stats.run();
     const std::array<const Tally*, 2> tallies{&stats.visit(), &run};
     const std::array<std::optional<double>, 2> exact{visitExact, runExact};
@@ -109,20 +160,22 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
         const auto row = [&](SummaryRow r, const QString& text) {
             setCell(table, static_cast<int>(r), column, text);
         };
-        row(SummaryRow::Hands, QString::number(t.hands));
+        row(SummaryRow::Hands, statsNumber(t.hands));
         row(SummaryRow::Bet, moneyText(t.bet));
         row(SummaryRow::Paid, moneyText(t.paid));
         row(SummaryRow::Return, percent(t.actualReturn()));
         row(SummaryRow::ExactReturn,
             t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));
-        row(SummaryRow::DoubleUpOffered, QString::number(t.doubleUp.offered));
-        row(SummaryRow::DoubleUpPlayed, QString::number(t.doubleUp.played));
-        row(SummaryRow::DoubleUpWon, QString::number(t.doubleUp.won));
+        luckRows(luck[c], row);
+        row(SummaryRow::DoubleUpOffered, statsNumber(t.doubleUp.offered));
+        row(SummaryRow::DoubleUpPlayed, statsNumber(t.doubleUp.played));
+        row(SummaryRow::DoubleUpWon, statsNumber(t.doubleUp.won));
         row(SummaryRow::DoubleUpHighest,
-            t.doubleUp.highestFactor > 1 ? QStringLiteral("\u00d7%1").arg(t.doubleUp.highestFactor)
-                                         : kNone);
-        row(SummaryRow::Bonuses, QString::number(t.bonuses));
-        row(SummaryRow::BonusFactor, factor ? QString::number(*factor, 'f', 1) : kNone);
+            t.doubleUp.highestFactor > 1
+                ? QStringLiteral("\u00d7%1").arg(statsNumber(t.doubleUp.highestFactor))
+                : kNone);
+        row(SummaryRow::Bonuses, statsNumber(t.bonuses));
+        row(SummaryRow::BonusFactor, factor ? statsNumber(*factor, 1) : kNone);
         row(SummaryRow::Mistakes, trainerCell(trainer[c], false));
         row(SummaryRow::MistakeCost, trainerCell(trainer[c], true));
     }
@@ -150,10 +203,9 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
         setCell(table, row, 0, name, Qt::AlignLeft);
         for (std::size_t t = 0; t < tallies.size(); ++t) {
             const int column = 1 + 2 * static_cast<int>(t);
-            setCell(table, row, column, QString::number(came[t]));
+            setCell(table, row, column, statsNumber(came[t]));
             setCell(table, row, column + 1,
-                    probability ? QString::number(*probability * tallies[t]->drawn, 'f', 2)
-                                : kComputing);
+                    probability ? statsNumber(*probability * tallies[t]->drawn, 2) : kComputing);
         }
     };
     int row = 0;

@@ -1,6 +1,7 @@
 #include "board/stats/stats_window.h"
 
 // Standard library
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
@@ -26,10 +29,34 @@
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "play/stats/history_csv.h"
+#include "play/stats/luck.h"
 #include "play/strategy/game_odds_cache.h"
 #include "play/strategy/hold_judgement.h"
 
 namespace marivale {
+namespace {
+
+constexpr QSize kOpeningSize(900, 680);
+
+// The width the hand history needs to show every column whole, at its font, for the widest
+// texts of each column.
+int historyWidth(const QTableView& view) {
+    const QFontMetrics metrics = view.fontMetrics();
+    const QStyle& style = *view.style();
+    const int margin = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+    int width =
+        2 * view.frameWidth() + style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &view);
+    for (int column = 0; column < HistoryModel::Count; ++column) {
+        int widest = view.horizontalHeader()->sectionSizeHint(column);
+        for (const QString& text : HistoryModel::sampleTexts(column)) {
+            widest = std::max(widest, metrics.horizontalAdvance(text) + margin);
+        }
+        width += widest;
+    }
+    return width;
+}
+
+} // namespace
 
 StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     : QWidget(parent, Qt::Tool), stats_(stats) {
@@ -87,7 +114,11 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);
     stats_.setListener([this] { scheduleRefresh(); });
     refresh();
-    resize(900, 680);
+    // Opens wide enough for every column of the history, as far as the screen allows.
+    history_->setMinimumWidth(historyWidth(*history_));
+    const int width = std::max(kOpeningSize.width(), minimumSizeHint().width());
+    history_->setMinimumWidth(0);
+    resize(std::min(width, screen()->availableGeometry().width()), kOpeningSize.height());
 }
 
 StatsWindow::~StatsWindow() {
@@ -125,27 +156,27 @@ void StatsWindow::refresh() {
     const std::string_view name = facts(stats_.visitGame()).name;
     heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
                           .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
-                          .arg(stats_.visits())
-                          .arg(stats_.history().size()));
+                          .arg(statsNumber(stats_.visits()))
+                          .arg(statsNumber(static_cast<double>(stats_.history().size()))));
+    OddsByGame gameOdds{};
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {
-        returns[gameIndex(game)] = exactReturn(game);
+        const auto& found = gameOdds[gameIndex(game)] = cachedGameOdds(game);
+        if (found) {
+            returns[gameIndex(game)] = found->expectedReturn;
+        }
     }
-    showSummaryTable(*summary_, stats_, exactReturn(stats_.visitGame()),
-                     expectedReturn(stats_.games(), returns));
-    showFrequencyTable(*frequencies_, stats_, cachedGameOdds(stats_.visitGame()));
-    chart_->showVisit(stats_);
+    const auto& history = stats_.history();
+    showSummaryTable(*summary_, stats_, returns[gameIndex(stats_.visitGame())],
+                     expectedReturn(stats_.games(), returns),
+                     {luckOf(history, stats_.visits(), gameOdds), luckOf(history, 0, gameOdds)});
+    const auto& visitOdds = gameOdds[gameIndex(stats_.visitGame())];
+    showFrequencyTable(*frequencies_, stats_, visitOdds);
+    chart_->showVisit(stats_, visitOdds);
     historyModel_->refresh();
     if (isVisible()) {
         startWork();
     }
-}
-
-std::optional<double> StatsWindow::exactReturn(GameId game) const {
-    if (const auto found = cachedGameOdds(game)) {
-        return found->expectedReturn;
-    }
-    return std::nullopt;
 }
 
 // Judges the holds still waiting and works out the whole-game odds of every game played, off

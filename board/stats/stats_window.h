@@ -1,14 +1,12 @@
 #pragma once
 
 // The session statistics window, a companion to a board: the visit's and the run's hands, bets
-// and payouts, the actual return beside the game's exact one, how often each paying hand came
-// against how often it should, Double Up and the Treasure Hunt, trainer mode's mistakes, a chart
-// of the visit's credits and the history of every hand with the cost of its hold. It only draws
+// and payouts, the actual return beside the game's exact one, luck and skill in bets, how often
+// each paying hand came against how often it should, Double Up and the Treasure Hunt, trainer
+// mode's mistakes, a chart of the visit's result in bets beside the best play's, and the history
+// of every hand with the cost of its hold. It only draws
 // the statistics model; closing it changes nothing. The odds it needs are worked out on a
 // background thread, so the board never waits for them.
-
-// Standard library
-#include <optional>
 
 // Qt
 #include <QWidget>
@@ -55,7 +53,6 @@ private:
     void startWork();
     void workDone();
     void exportClicked();
-    std::optional<double> exactReturn(GameId game) const;
 
     SessionStats& stats_;
     bool refreshPending_{false};

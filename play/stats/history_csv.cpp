@@ -1,6 +1,7 @@
 #include "play/stats/history_csv.h"
 
 // Standard library
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -42,6 +43,19 @@ std::string fixedText(double value, int decimals) {
     return std::string(buffer.data(), end);
 }
 
+std::string groupedText(double value, int decimals, bool plusSign) {
+    std::string digits = fixedText(value < 0.0 ? -value : value, decimals);
+    const bool zero = digits.find_first_not_of("0.") == std::string::npos;
+    const auto point = std::min(digits.find('.'), digits.size());
+    for (auto at = static_cast<std::ptrdiff_t>(point) - 3; at > 0; at -= 3) {
+        digits.insert(static_cast<std::size_t>(at), 1, ',');
+    }
+    if (zero) {
+        return digits;
+    }
+    return (value < 0.0 ? "-" : plusSign ? "+" : "") + digits;
+}
+
 std::string doubleUpText(const HandRecord& hand) {
     switch (hand.doubleUp) {
     case DoubleUpResult::NotOffered:
@@ -58,6 +72,13 @@ std::string doubleUpText(const HandRecord& hand) {
     return {};
 }
 
+std::string unsettledText(const HandRecord& hand) {
+    if (hand.finished) {
+        return {};
+    }
+    return hand.abandoned ? "abandoned" : "in play";
+}
+
 std::string historyCsv(const std::vector<HandRecord>& history) {
     std::string csv(kHeader);
     for (const HandRecord& hand : history) {
@@ -70,7 +91,7 @@ std::string historyCsv(const std::vector<HandRecord>& history) {
             cardsText(hand.dealt),
             hand.played ? cardsText(hand.dealt, hand.holds) : std::string{},
             hand.played ? cardsText(hand.finalCards) : std::string{},
-            hand.finished ? hand.name : std::string("abandoned"),
+            hand.finished ? hand.name : unsettledText(hand),
             fixedText(hand.paid, 2),
             doubleUpText(hand),
             fixedText(hand.bonus, 2),

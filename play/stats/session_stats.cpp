@@ -7,14 +7,10 @@
 #include "engine/odds/hold_odds.h"
 
 namespace marivale {
-namespace {
 
-// A hand the odds can judge: the player chose a hold on five good cards.
 bool judgeable(const HandRecord& hand) {
     return hand.played && odds::isValidDeal(deckSize(hand.game), hand.dealt);
 }
-
-} // namespace
 
 std::optional<double> Tally::actualReturn() const {
     if (!(bet > 0.0f)) {
@@ -88,12 +84,11 @@ Tally SessionStats::run() const {
 }
 
 // A new visit starts its own tally and chart; the run's tallies and history carry on.
-void SessionStats::visitStarted(GameId game, float credits) {
+void SessionStats::visitStarted(GameId game, float /*credits*/) {
     ++visits_;
     visitGame_ = game;
     visit_ = Tally{};
-    startCredits_ = credits;
-    credits_.clear();
+    results_.clear();
     marks_.clear();
     handOpen_ = false;
     changed();
@@ -177,7 +172,7 @@ void SessionStats::bonus(float amount) {
     }
 }
 
-void SessionStats::settled(float paid, float credits) {
+void SessionStats::settled(float paid, float /*credits*/) {
     HandRecord* hand = openHand();
     if (hand == nullptr) {
         return;
@@ -188,13 +183,15 @@ void SessionStats::settled(float paid, float credits) {
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->paid += paid;
     }
-    credits_.push_back(credits);
+    const double before = results_.empty() ? 0.0 : results_.back();
+    const double won = hand->bet > 0.0f ? (static_cast<double>(paid) - hand->bet) / hand->bet : 0.0;
+    results_.push_back(before + won);
     changed();
 }
 
 void SessionStats::purchased(float amount, float credits) {
     marks_.push_back(
-        {CreditMarkKind::Purchase, static_cast<int>(credits_.size()), amount, credits});
+        {CreditMarkKind::Purchase, static_cast<int>(results_.size()), amount, credits});
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->purchased += amount;
     }
@@ -202,7 +199,7 @@ void SessionStats::purchased(float amount, float credits) {
 }
 
 void SessionStats::cashedOut(float amount) {
-    marks_.push_back({CreditMarkKind::CashOut, static_cast<int>(credits_.size()), amount, 0.0f});
+    marks_.push_back({CreditMarkKind::CashOut, static_cast<int>(results_.size()), amount, 0.0f});
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += amount;
     }
@@ -211,6 +208,9 @@ void SessionStats::cashedOut(float amount) {
 
 // Closing the board abandons a hand in play: its bet stays counted, it paid nothing.
 void SessionStats::visitEnded(float cashedOut) {
+    if (HandRecord* hand = openHand()) {
+        hand->abandoned = true;
+    }
     handOpen_ = false;
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += cashedOut;

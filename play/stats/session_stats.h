@@ -1,7 +1,7 @@
 #pragma once
 
 // The statistics of a run, recorded from the play controller's events: a tally of the current
-// visit and of every game over the whole run, the credits after each hand of the visit, and the
+// visit and of every game over the whole run, the visit's result after each hand, and the
 // history of every hand. It only listens; nothing here changes the board or is saved. The cost
 // of each hold is filled in later, from the exact odds, by whoever can spare the time.
 
@@ -40,7 +40,8 @@ struct HandRecord {
     int doubleFactor{0};
     float bonus{0.0f};
     bool finished{false};
-    bool trainer{false}; // trainer mode was on when the player drew
+    bool abandoned{false}; // the board closed before the hand was settled
+    bool trainer{false};   // trainer mode was on when the player drew
     std::optional<HoldJudgement> judgement{};
 };
 
@@ -78,7 +79,7 @@ struct TrainerSummary {
 
 enum class CreditMarkKind : std::uint8_t { Purchase, CashOut };
 
-// A purchase or a cash-out on the chart: after so many hands of the visit, the credits it left.
+// A purchase or a cash-out: after so many settled hands of the visit, the credits it left.
 struct CreditMark {
     CreditMarkKind kind{CreditMarkKind::Purchase};
     int afterHands{0};
@@ -123,10 +124,9 @@ public:
     const std::array<Tally, kGameCount>& games() const { return run_; }
     Tally run() const;
 
-    // The credits the visit started with, then after each of its hands, and its purchases and
-    // cash-outs.
-    float visitStartCredits() const { return startCredits_; }
-    const std::vector<float>& visitCredits() const { return credits_; }
+    // The visit's result in bets after each of its settled hands (what each paid less its bet,
+    // over its bet, added up), and its purchases and cash-outs.
+    const std::vector<double>& visitResults() const { return results_; }
     const std::vector<CreditMark>& visitMarks() const { return marks_; }
 
     // Every hand of the run, oldest first.
@@ -146,14 +146,16 @@ private:
     GameId visitGame_{GameId::JacksOrBetter};
     Tally visit_{};
     std::array<Tally, kGameCount> run_{};
-    float startCredits_{0.0f};
-    std::vector<float> credits_{};
+    std::vector<double> results_{};
     std::vector<CreditMark> marks_{};
     std::vector<HandRecord> history_{};
     bool handOpen_{false};
     bool trainerMode_{false};
     std::function<void()> listener_{};
 };
+
+// A hand the odds can judge: the player chose a hold on five good cards.
+bool judgeable(const HandRecord& hand);
 
 // The return the player could expect over a set of games, each weighted by what was bet on it;
 // nothing before a bet or while a game with bets has no known return.

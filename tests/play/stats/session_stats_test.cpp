@@ -1,10 +1,11 @@
 // The statistics model fed by a real controller from scripted hands: the visit's and the run's
-// counts, sums and returns, Double Up and the Treasure Hunt, the chart's points and marks, and
+// counts, sums and returns, Double Up and the Treasure Hunt, the running result and marks, and
 // the exact cost of the holds the player made.
 
 #include <gtest/gtest.h>
 
 // Marivale
+#include "play/stats/history_csv.h"
 #include "play/stats/session_stats.h"
 #include "play/strategy/hold_judgement.h"
 #include "tests/support/fake_view.h"
@@ -54,7 +55,7 @@ TEST(Model, AVisitOfScriptedHands) {
     EXPECT_EQ(v.doubleUp.won, 1);
     EXPECT_EQ(v.doubleUp.highestFactor, 4);
 
-    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{24, 23, 26, 25, 26}));
+    EXPECT_EQ(stats.visitResults(), (std::vector<double>{4, 3, 6, 5, 5})); // in $1 bets
     ASSERT_EQ(stats.visitMarks().size(), 3u);
     const std::vector<CreditMark>& m = stats.visitMarks();
     EXPECT_EQ(m[0].kind, CreditMarkKind::Purchase);
@@ -99,7 +100,7 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_EQ(stats.visits(), 2);
     EXPECT_EQ(stats.visitGame(), DW);
     EXPECT_EQ(stats.visit().hands, 2);
-    EXPECT_EQ(stats.visitCredits().size(), 2u);
+    EXPECT_EQ(stats.visitResults().size(), 2u);
     EXPECT_EQ(stats.game(JB).hands, 2);
     EXPECT_FLOAT_EQ(stats.game(JB).cashedOut, 23.0f);
     const Tally run = stats.run();
@@ -117,7 +118,8 @@ TEST(Model, TheRunOutlivesItsVisits) {
     EXPECT_DOUBLE_EQ(*expectedReturn(stats.games(), returns), 0.92);
 }
 
-// A refused deal or cash-out leaves no trace; closing mid-hand abandons the hand.
+// A refused deal or cash-out leaves no trace; a hand dealt is in play until closing the board
+// abandons it.
 TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     SessionStats stats;
     Table t(JB, 0.0f, 1.0f, &stats);
@@ -126,12 +128,18 @@ TEST(Model, RefusalsAreSilentAndClosingAbandonsTheHand) {
     t.buy(4);
     t.script("2c 5d 9h Js Kd");
     t.controller.drawDealClicked();
+    const auto result = [&stats] {
+        return historyCsv(stats.history()).find(",in play,") != std::string::npos;
+    };
+    EXPECT_TRUE(result()) << historyCsv(stats.history());
     t.controller.unload();
+    EXPECT_FALSE(result());
+    EXPECT_TRUE(stats.history()[0].abandoned);
     EXPECT_EQ(stats.visit().hands, 1);
     EXPECT_EQ(stats.visit().drawn, 0);
     EXPECT_FLOAT_EQ(stats.visit().bet, 1.0f);
     EXPECT_FLOAT_EQ(stats.visit().cashedOut, 19.0f);
-    EXPECT_TRUE(stats.visitCredits().empty());
+    EXPECT_TRUE(stats.visitResults().empty());
     EXPECT_EQ(stats.visitMarks().size(), 1u); // the purchase
     ASSERT_EQ(stats.history().size(), 1u);
     EXPECT_FALSE(stats.history()[0].finished);
@@ -149,7 +157,7 @@ TEST(Model, TreasureHuntFactors) {
     t.view.chests = {3, 3};
     t.hand("3s 3d 3h 4c Kd", 0x1f);
     EXPECT_EQ(stats.visit().bonuses, 2);
-    EXPECT_EQ(stats.visitCredits(), (std::vector<float>{26, 35}));
+    EXPECT_EQ(stats.visitResults(), (std::vector<double>{6, 15}));
     EXPECT_DOUBLE_EQ(*stats.visit().averageBonusFactor(), 7.5);
     EXPECT_FLOAT_EQ(stats.history()[1].bonus, 9.0f);
     EXPECT_FLOAT_EQ(stats.visit().paid, 2.0f + 15.0f);

@@ -3,6 +3,9 @@
 // Qt
 #include <QRegularExpression>
 
+// Marivale
+#include "engine/number_text.h"
+
 namespace marivale {
 
 QLocale numberLocale() {
@@ -12,11 +15,11 @@ QLocale numberLocale() {
 }
 
 QString countText(long long count) {
-    return numberLocale().toString(count);
+    return QString::fromStdString(groupedText(static_cast<double>(count), 0));
 }
 
-QString decimalText(double value, int decimals) {
-    return numberLocale().toString(value, 'f', decimals);
+QString decimalText(double value, int decimals, bool plusSign) {
+    return QString::fromStdString(groupedText(value, decimals, plusSign));
 }
 
 QString percentText(double fraction, int decimals) {

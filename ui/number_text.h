@@ -17,8 +17,9 @@ QLocale numberLocale();
 
 // A count with its thousands: "1,600".
 QString countText(long long count);
-// A number with so many decimals and its thousands: "83.7875", "1,234.50".
-QString decimalText(double value, int decimals);
+// A number with so many decimals and its thousands, when asked with a "+" in front of a positive
+// value: "83.7875", "1,234.50", "+0.25".
+QString decimalText(double value, int decimals, bool plusSign = false);
 // A fraction as a percentage with so many decimals: 0.837875 at 4 is "83.7875%".
 QString percentText(double fraction, int decimals);
 

@@ -8,9 +8,11 @@
 #include <QAreaSeries>
 #include <QChart>
 #include <QLineSeries>
-#include <QLocale>
 #include <QScatterSeries>
 #include <QValueAxis>
+
+// Marivale
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -79,7 +81,7 @@ CreditChart::CreditChart(QWidget* parent) : QChartView(parent) {
     chart->legend()->setAlignment(Qt::AlignRight);
     // Axis labels keep the window's "," between thousands and "." point whatever the locale.
     chart->setLocalizeNumbers(true);
-    chart->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    chart->setLocale(numberLocale());
 
     bands_ = {makeBand(QStringLiteral("OneDeviation"), tr("\u00b11 SD"), kBandColours[0], chart),
               makeBand(QStringLiteral("TwoDeviations"), tr("\u00b12 SD"), kBandColours[1], chart)};

@@ -14,6 +14,7 @@
 #include "play/game_variant.h"
 #include "play/stats/history_csv.h"
 #include "ui/money_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -99,7 +100,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
 QString HistoryModel::text(const HandRecord& hand, int column) const {
     switch (column) {
     case Number:
-        return statsNumber(hand.number);
+        return countText(hand.number);
     case Game:
         return title(hand.game);
     case Bet:
@@ -138,7 +139,7 @@ QStringList HistoryModel::sampleTexts(int column) {
     HandRecord hand;
     switch (column) {
     case Number:
-        return {statsNumber(99999)};
+        return {countText(99999)};
     case Game:
         for (const GameId game : kAllGames) {
             texts << title(game);

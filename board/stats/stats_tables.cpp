@@ -14,6 +14,7 @@
 #include "engine/hand_names.h"
 #include "play/stats/history_csv.h"
 #include "ui/money_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -23,7 +24,7 @@ const QString kNone = QStringLiteral("-");
 const QString kComputing = QStringLiteral("\u2026");
 
 QString percent(std::optional<double> ratio, const QString& otherwise = kNone) {
-    return ratio ? statsNumber(100.0 * *ratio, 2) + QLatin1Char('%') : otherwise;
+    return ratio ? decimalText(100.0 * *ratio, 2) + QLatin1Char('%') : otherwise;
 }
 
 void setCell(QTableWidget& table, int row, int column, const QString& text,
@@ -72,14 +73,14 @@ QString trainerCell(const TrainerSummary& summary, bool cost) {
     if (summary.pending > 0) {
         return kComputing;
     }
-    return cost ? moneyText(summary.cost) : statsNumber(summary.mistakes);
+    return cost ? moneyText(summary.cost) : countText(summary.mistakes);
 }
 
 // The result, the best play's average, the luck and the mistakes' cost, in bets; a dash before
 // a hand is settled and an ellipsis while odds or judgements are being worked out.
 void luckRows(const LuckSummary& luck, const std::function<void(SummaryRow, QString)>& row) {
     const auto bets = [](std::optional<double> value) {
-        return value ? statsNumber(*value, 2, true) : kComputing;
+        return value ? decimalText(*value, 2, true) : kComputing;
     };
     if (luck.hands == 0) {
         for (const SummaryRow r : {SummaryRow::ResultBets, SummaryRow::ExpectedBets,
@@ -96,14 +97,10 @@ void luckRows(const LuckSummary& luck, const std::function<void(SummaryRow, QStr
                                     .arg(bets(luck.luck()), deviations ? bets(deviations) : kNone)
                               : kComputing);
     const auto cost = luck.skillCost();
-    row(SummaryRow::SkillCost, cost ? statsNumber(*cost, 2) : kComputing);
+    row(SummaryRow::SkillCost, cost ? decimalText(*cost, 2) : kComputing);
 }
 
 } // namespace
-
-QString statsNumber(double value, int decimals, bool plusSign) {
-    return QString::fromStdString(groupedText(value, decimals, plusSign));
-}
 
 QTableWidget* makeSummaryTable(QWidget* parent) {
     auto* table = makeTable(static_cast<int>(SummaryRow::Count),
@@ -160,22 +157,22 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
         const auto row = [&](SummaryRow r, const QString& text) {
             setCell(table, static_cast<int>(r), column, text);
         };
-        row(SummaryRow::Hands, statsNumber(t.hands));
+        row(SummaryRow::Hands, countText(t.hands));
         row(SummaryRow::Bet, moneyText(t.bet));
         row(SummaryRow::Paid, moneyText(t.paid));
         row(SummaryRow::Return, percent(t.actualReturn()));
         row(SummaryRow::ExactReturn,
             t.hands == 0 && column == kRunColumn ? kNone : percent(exact[c], kComputing));
         luckRows(luck[c], row);
-        row(SummaryRow::DoubleUpOffered, statsNumber(t.doubleUp.offered));
-        row(SummaryRow::DoubleUpPlayed, statsNumber(t.doubleUp.played));
-        row(SummaryRow::DoubleUpWon, statsNumber(t.doubleUp.won));
+        row(SummaryRow::DoubleUpOffered, countText(t.doubleUp.offered));
+        row(SummaryRow::DoubleUpPlayed, countText(t.doubleUp.played));
+        row(SummaryRow::DoubleUpWon, countText(t.doubleUp.won));
         row(SummaryRow::DoubleUpHighest,
             t.doubleUp.highestFactor > 1
-                ? QStringLiteral("\u00d7%1").arg(statsNumber(t.doubleUp.highestFactor))
+                ? QStringLiteral("\u00d7%1").arg(countText(t.doubleUp.highestFactor))
                 : kNone);
-        row(SummaryRow::Bonuses, statsNumber(t.bonuses));
-        row(SummaryRow::BonusFactor, factor ? statsNumber(*factor, 1) : kNone);
+        row(SummaryRow::Bonuses, countText(t.bonuses));
+        row(SummaryRow::BonusFactor, factor ? decimalText(*factor, 1) : kNone);
         row(SummaryRow::Mistakes, trainerCell(trainer[c], false));
         row(SummaryRow::MistakeCost, trainerCell(trainer[c], true));
     }
@@ -203,9 +200,9 @@ void showFrequencyTable(QTableWidget& table, const SessionStats& stats,
         setCell(table, row, 0, name, Qt::AlignLeft);
         for (std::size_t t = 0; t < tallies.size(); ++t) {
             const int column = 1 + 2 * static_cast<int>(t);
-            setCell(table, row, column, statsNumber(came[t]));
+            setCell(table, row, column, countText(came[t]));
             setCell(table, row, column + 1,
-                    probability ? statsNumber(*probability * tallies[t]->drawn, 2) : kComputing);
+                    probability ? decimalText(*probability * tallies[t]->drawn, 2) : kComputing);
         }
     };
     int row = 0;

@@ -20,9 +20,6 @@ class QWidget;
 
 namespace marivale {
 
-// A number of the statistics window, "," between thousands and a "." point whatever the locale.
-QString statsNumber(double value, int decimals = 0, bool plusSign = false);
-
 // Rows of the summary table, top to bottom.
 enum class SummaryRow {
     Hands,

@@ -32,6 +32,7 @@
 #include "play/stats/luck.h"
 #include "play/strategy/game_odds_cache.h"
 #include "play/strategy/hold_judgement.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -156,8 +157,8 @@ void StatsWindow::refresh() {
     const std::string_view name = facts(stats_.visitGame()).name;
     heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
                           .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
-                          .arg(statsNumber(stats_.visits()))
-                          .arg(statsNumber(static_cast<double>(stats_.history().size()))));
+                          .arg(countText(stats_.visits()))
+                          .arg(countText(static_cast<long long>(stats_.history().size()))));
     OddsByGame gameOdds{};
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {

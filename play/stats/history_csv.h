@@ -13,14 +13,6 @@
 
 namespace marivale {
 
-// A number with a fixed count of decimals and a "." point.
-std::string fixedText(double value, int decimals);
-
-// A number as the statistics show it: "," between thousands, a "." point, a "-" in front of a
-// negative value and, when asked, a "+" in front of a positive one; nothing in front of a value
-// that rounds to zero ("-1,234.50", "+0.25", "0.00").
-std::string groupedText(double value, int decimals, bool plusSign = false);
-
 // "took score", "no guess", "won x4", "lost"; empty when Double Up was not offered.
 std::string doubleUpText(const HandRecord& hand);
 

@@ -20,8 +20,9 @@ namespace {
 constexpr qreal kMarkerSize = 11.0;
 // Points on the result line while they stand apart.
 constexpr int kMostPoints = 60;
-// Labelled steps along an axis, at most.
-constexpr int kMostSteps = 6;
+// Labelled steps along the hands, and along the shorter axis of the bets, at most.
+constexpr int kMostHandSteps = 6;
+constexpr int kMostBetSteps = 4;
 const QColor kResultColour(0, 96, 160);
 const QColor kExpectedColour(70, 70, 70);
 const std::array<QColor, 2> kBandColours{QColor(255, 180, 40, 120), QColor(255, 180, 40, 60)};
@@ -53,12 +54,12 @@ QAreaSeries* makeBand(const QString& objectName, const QString& name, const QCol
 
 // Rounds the axis out to steps of 1, 2 or 5 times a power of ten, no finer than the finest step,
 // with a label at each step and as many decimals as the step needs.
-void setRoundRange(QValueAxis& axis, double low, double high, double finest) {
+void setRoundRange(QValueAxis& axis, double low, double high, double finest, int mostSteps) {
     const double span = std::max(high - low, finest);
-    const double power = std::pow(10.0, std::floor(std::log10(span / kMostSteps)));
+    const double power = std::pow(10.0, std::floor(std::log10(span / mostSteps)));
     double step = 10.0 * power;
     for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power * kMostSteps >= span) {
+        if (factor * power * mostSteps >= span) {
             step = factor * power;
             break;
         }
@@ -171,8 +172,8 @@ void CreditChart::showVisit(const SessionStats& stats,
                                : tr("Result in bets after each hand of this visit "
                                     "(computing the expected line\u2026)"));
 
-    setRoundRange(*hands_, 0.0, std::max(hands, 10), 1.0);
-    setRoundRange(*bets_, low, high, 0.01);
+    setRoundRange(*hands_, 0.0, std::max(hands, 10), 1.0, kMostHandSteps);
+    setRoundRange(*bets_, low, high, 0.01, kMostBetSteps);
 }
 
 } // namespace marivale

@@ -155,10 +155,12 @@ void StatsWindow::scheduleRefresh() {
 
 void StatsWindow::refresh() {
     const std::string_view name = facts(stats_.visitGame()).name;
-    heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 hands in the run")
+    const auto hands = static_cast<long long>(stats_.history().size());
+    heading_->setText(tr("<b>%1</b> &nbsp; visit %2 of this run &nbsp; %3 %4 in the run")
                           .arg(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())))
                           .arg(countText(stats_.visits()))
-                          .arg(countText(static_cast<long long>(stats_.history().size()))));
+                          .arg(countText(hands))
+                          .arg(hands == 1 ? tr("hand") : tr("hands")));
     OddsByGame gameOdds{};
     std::array<std::optional<double>, kGameCount> returns{};
     for (const GameId game : kAllGames) {

@@ -283,7 +283,7 @@ void StatsWindowTest::numbersIgnoreTheLocale() {
             labels << text->toPlainText();
         }
     }
-    for (const char* label : {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0", "1,000"}) {
+    for (const char* label : {"0.0", "0.5", "1.0", "1,000"}) {
         QVERIFY2(labels.count(QString::fromLatin1(label)) == 1, qPrintable(labels.join(' ')));
     }
     QLocale::setDefault(QLocale::c());

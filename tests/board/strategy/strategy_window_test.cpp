@@ -3,13 +3,18 @@
 // edited pay table with the board's table one click away, and the risk of ruin and the goals of a
 // session.
 
+// Standard library
+#include <algorithm>
+
 // Qt
+#include <QAbstractAxis>
 #include <QChartView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineSeries>
 #include <QPushButton>
 #include <QTableWidget>
@@ -240,6 +245,14 @@ void StrategyWindowTest::editedPayTableShowsItsFiguresUntilTheBoardTableComesBac
     QVERIFY(strategy.label("TrainerVerdict").startsWith("By the board's pay table: "));
     QVERIFY(strategy.label("TrainerVerdict").contains("$6.68"));
 
+    // A huge pay's figures wrap: the window needs no more room than before.
+    const int width = strategy.window.layout()->minimumSize().width();
+    strategy.pay(9)->setValue(99999.0);
+    QVERIFY(strategy.waitForGame());
+    QVERIFY(!strategy.label("GameReturn").contains("computing"));
+    QVERIFY(strategy.window.layout()->minimumSize().width() <= width);
+    strategy.pay(9)->setValue(800.0);
+
     // The next well-known table is one key away; a pay of its own makes it edited by hand.
     QTest::keyClick(choice, Qt::Key_Down);
     QCOMPARE(strategy.pay(6)->value(), 8.0);
@@ -298,9 +311,14 @@ void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
     QVERIFY(strategy.label("RiskOfRuin").contains(percent(session.riskAt(160))));
 
     // Fewer hands: a new curve.
+    // While it is worked out the chart shows no axes, never a scale of nothing.
     strategy.window.findChild<QDoubleSpinBox*>("Hands")->setValue(100);
     QVERIFY(strategy.label("RiskOfRuin").contains(QStringLiteral("computing")));
+    const auto axes = chart->chart()->axes();
+    QVERIFY(
+        std::none_of(axes.begin(), axes.end(), [](QAbstractAxis* a) { return a->isVisible(); }));
     QVERIFY(strategy.waitForRisk());
+    QVERIFY(std::all_of(axes.begin(), axes.end(), [](QAbstractAxis* a) { return a->isVisible(); }));
     QCOMPARE(strategy.label("RiskOfRuin"),
              QStringLiteral("Risk of ruin: <b>%1</b> (160 bets of $0.25 over 100 hands)")
                  .arg(percent(odds::ruinCurve(payouts, 100)->riskAt(160))));

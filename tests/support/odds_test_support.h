@@ -1,7 +1,7 @@
 #pragma once
 
-// Shared by the odds tests: repeatable deals, and a brute-force count of a hold that plays every
-// possible draw through the game's own AnalyzeHand, the way the board would.
+// Shared by the odds tests: small pay distributions, repeatable deals, and a brute-force count of a
+// hold that plays every possible draw through the game's own AnalyzeHand, the way the board would.
 
 // Standard library
 #include <algorithm>
@@ -16,6 +16,7 @@
 #include "engine/hand_analysis.h"
 #include "engine/odds/outcome.h"
 #include "engine/odds/pay_scale.h"
+#include "engine/odds/risk_of_ruin.h"
 #include "engine/random_source.h"
 #include "state/game_state.h"
 
@@ -35,6 +36,12 @@ inline constexpr bool kOptimisedBuild = true;
 #else
 inline constexpr bool kOptimisedBuild = false;
 #endif
+
+// Small pay distributions worked by hand: nothing or two bets, evenly; nothing, one or three
+// bets; nothing or two and a half bets.
+inline const std::vector<odds::Payout> kCoin{{0.0, 0.5}, {2.0, 0.5}};
+inline const std::vector<odds::Payout> kThreeWay{{0.0, 0.5}, {1.0, 0.25}, {3.0, 0.25}};
+inline const std::vector<odds::Payout> kHalves{{0.0, 0.5}, {2.5, 0.5}};
 
 // Building a game's tables classifies every hand of its deck, which takes tens of seconds in a
 // sanitizer build: there the table tests run on Treasure Trips alone (joker deck and bonus).

@@ -21,10 +21,9 @@ namespace {
 
 using odds::Payout;
 
-// Nothing or two bets, evenly; nothing, one or three bets; nothing or two and a half bets.
-const std::vector<Payout> kCoin{{0.0, 0.5}, {2.0, 0.5}};
-const std::vector<Payout> kThreeWay{{0.0, 0.5}, {1.0, 0.25}, {3.0, 0.25}};
-const std::vector<Payout> kHalves{{0.0, 0.5}, {2.5, 0.5}};
+using testing::kCoin;
+using testing::kHalves;
+using testing::kThreeWay;
 
 struct HandWorked {
     const std::vector<Payout>* payouts;

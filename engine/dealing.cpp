@@ -1,5 +1,7 @@
 #include "engine/dealing.h"
 
+#include <cmath>
+
 namespace marivale {
 
 void DealCards(GameState& state, GameId game, RandomSource& random) {
@@ -28,6 +30,17 @@ void DealCards(GameState& state, GameId game, RandomSource& random) {
             state.Held[position] = kFalse;
         }
     }
+}
+
+HandCards boardCards(const GameState& state) {
+    HandCards cards{};
+    for (std::size_t p = 0; p < cards.size(); ++p) {
+        const float value = state.Hand[p];
+        cards[p] = value >= 0.0f && value <= static_cast<float>(kJoker)
+                       ? static_cast<CardCode>(std::lround(value))
+                       : -1;
+    }
+    return cards;
 }
 
 } // namespace marivale

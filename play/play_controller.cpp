@@ -41,11 +41,7 @@ void PlayController::showMoney(Control control, float value, std::string_view pa
 
 // The five cards on the board as codes.
 HandCards PlayController::cards() const {
-    HandCards codes{};
-    for (int p = 0; p < kHandSize; ++p) {
-        codes[p] = static_cast<CardCode>(std::lround(state_.Hand[p]));
-    }
-    return codes;
+    return boardCards(state_);
 }
 
 void PlayController::ShowPayTable() {

@@ -161,8 +161,7 @@ void GameFigures::buildTableChoice(QVBoxLayout& layout) {
 // The well-known table a scale is, if any.
 const odds::NamedTable* GameFigures::namedTableOf(const odds::PayScale& scale) const {
     for (const odds::NamedTable& table : named_) {
-        const odds::PayScale known = odds::payScaleOf(table);
-        if (known.multiplier == scale.multiplier && known.bonus == scale.bonus) {
+        if (odds::payScaleOf(table) == scale) {
             return &table;
         }
     }

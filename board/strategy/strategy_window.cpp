@@ -1,24 +1,19 @@
 #include "board/strategy/strategy_window.h"
 
-// Standard library
-#include <algorithm>
-#include <cmath>
-
 // Qt
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QResizeEvent>
-#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 // Marivale
-#include "board/strategy/bankroll_panel.h"
 #include "board/strategy/game_figures.h"
-#include "board/strategy/goal_panel.h"
+#include "board/strategy/session_page.h"
 #include "board/strategy/trainer_panel.h"
+#include "engine/dealing.h"
 #include "engine/hand_analysis.h"
 #include "engine/odds/draw_tables.h"
 #include "play/game_variant.h"
@@ -26,27 +21,9 @@
 #include "ui/card_text.h"
 #include "ui/money_text.h"
 #include "ui/number_text.h"
+#include "ui/screen_fit.h"
 
 namespace marivale {
-namespace {
-
-// The board's five cards; anything that is not a card code reads as -1.
-HandCards readDeal(const GameState& state) {
-    HandCards dealt{};
-    for (std::size_t p = 0; p < dealt.size(); ++p) {
-        const float value = state.Hand[p];
-        dealt[p] = value >= 0.0f && value <= static_cast<float>(kJoker)
-                       ? static_cast<CardCode>(std::lround(value))
-                       : -1;
-    }
-    return dealt;
-}
-
-bool sameScale(const odds::PayScale& a, const odds::PayScale& b) {
-    return a.multiplier == b.multiplier && a.bonus == b.bonus;
-}
-
-} // namespace
 
 StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* parent)
     : QWidget(parent, Qt::Tool), game_(game), state_(state), boardScale_(odds::ownPayScale(game)),
@@ -58,22 +35,16 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::multiplierEdited, this, &StrategyWindow::setMultiplier);
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
-    connect(bankroll_, &BankrollPanel::handsChanged, this, [this] { startRuinWork(); });
-    connect(bankroll_, &BankrollPanel::handsChanged, this, &StrategyWindow::sessionChanged);
-    connect(bankroll_, &BankrollPanel::bankrollChanged, this, &StrategyWindow::sessionChanged);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
-    sessionChanged();
     resize(sizeHint());
     startGameWork();
 }
 
 StrategyWindow::~StrategyWindow() {
-    // Both at once: neither waits for the other's stop.
     gameWork_.requestStop();
-    ruinWork_.requestStop();
 }
 
 // Two columns: the dealt hand's holds and the trainer; the game's figures and the bankroll.
@@ -112,28 +83,14 @@ void StrategyWindow::buildLayout() {
     gamePageLayout->addStretch(1);
     side->addTab(gamePage, tr("&Game"));
 
-    auto* sessionPage = new QWidget(side);
-    auto* sessionLayout = new QVBoxLayout(sessionPage);
-    bankroll_ = new BankrollPanel(state_.BetAmount, sessionPage);
-    sessionLayout->addWidget(bankroll_, 1);
-    goals_ = new GoalPanel(sessionPage);
-    sessionLayout->addWidget(goals_);
-    side->addTab(sessionPage, tr("&Session"));
+    session_ = new SessionPage(state_.BetAmount, side);
+    side->addTab(session_, tr("&Session"));
 }
 
 // A window that grows once its figures arrive stays whole on its screen.
 void StrategyWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (!isVisible() || screen() == nullptr) {
-        return;
-    }
-    const QRect area = screen()->availableGeometry();
-    const QRect outer = frameGeometry();
-    const int x = std::max(area.left(), std::min(outer.left(), area.right() - outer.width()));
-    const int y = std::max(area.top(), std::min(outer.top(), area.bottom() - outer.height()));
-    if (x != outer.left() || y != outer.top()) {
-        move(x, y);
-    }
+    keepOnScreen(*this);
 }
 
 // Builds the game's tables, then the whole-game figures of the table on show, off the
@@ -172,42 +129,8 @@ void StrategyWindow::startGameWork() {
     });
 }
 
-// The risk curve of the table on show over the panel's hands, off the user-interface thread.
-void StrategyWindow::startRuinWork() {
-    ruinWork_.stop();
-    bankroll_->showComputing();
-    if (!gameOdds_) {
-        return;
-    }
-    ruinWork_.start([this, payouts = odds::payoutDistribution(*gameOdds_, scale_),
-                     hands = bankroll_->hands(), generation = generation_](std::stop_token stop) {
-        auto curve = odds::ruinCurve(payouts, hands, stop);
-        if (!curve) {
-            if (!stop.stop_requested()) {
-                QMetaObject::invokeMethod(
-                    this,
-                    [this, generation] {
-                        if (generation == generation_) {
-                            bankroll_->showTooMuch();
-                        }
-                    },
-                    Qt::QueuedConnection);
-            }
-            return;
-        }
-        QMetaObject::invokeMethod(
-            this,
-            [this, found = std::move(*curve), generation] {
-                if (generation == generation_) {
-                    bankroll_->showCurve(found);
-                }
-            },
-            Qt::QueuedConnection);
-    });
-}
-
 bool StrategyWindow::riskReady() const {
-    return bankroll_->curve().has_value();
+    return session_->riskReady();
 }
 
 void StrategyWindow::tablesReady() {
@@ -223,8 +146,7 @@ void StrategyWindow::gameOddsReady(const odds::GameOdds& result, int generation)
     gameOdds_ = result;
     figures_->showOdds(result, scale_, edited_);
     gameOddsShown_ = true;
-    goals_->setPayouts(odds::payoutDistribution(result, scale_));
-    startRuinWork();
+    session_->setPayouts(odds::payoutDistribution(result, scale_));
 }
 
 void StrategyWindow::setMultiplier(int code, double multiplier) {
@@ -248,17 +170,13 @@ void StrategyWindow::useTable(const odds::PayScale& scale) {
 // Every figure follows the table on show: the holds at once, the game and the risk once worked
 // out again.
 void StrategyWindow::payScaleChanged() {
-    edited_ = !sameScale(scale_, boardScale_);
+    edited_ = scale_ != boardScale_;
     figures_->showScale(scale_, edited_);
     figures_->showComputing();
     gameOdds_.reset();
     gameOddsShown_ = false;
-    ruinWork_.requestStop();
-    goals_->setPayouts({});
+    session_->setPayouts({});
     startGameWork();
-    if (!gameOdds_) {
-        bankroll_->showComputing();
-    }
     if (dealt_) {
         handOdds_.reset();
         analyseDeal();
@@ -266,7 +184,7 @@ void StrategyWindow::payScaleChanged() {
 }
 
 void StrategyWindow::handDealt() {
-    const HandCards dealt = readDeal(state_);
+    const HandCards dealt = boardCards(state_);
     replayed_.reset();
     handOdds_.reset();
     boardHandOdds_.reset();
@@ -363,13 +281,7 @@ void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
 
 // A hand on show keeps the bet it was dealt at; the bankroll takes the new one.
 void StrategyWindow::betChanged() {
-    bankroll_->setBet(state_.BetAmount);
-    sessionChanged();
-}
-
-// The goals follow the bet and the bankroll panel's session.
-void StrategyWindow::sessionChanged() {
-    goals_->setSession(state_.BetAmount, bankroll_->bankroll(), bankroll_->hands());
+    session_->setBet(state_.BetAmount);
 }
 
 void StrategyWindow::showDealtLabel() {

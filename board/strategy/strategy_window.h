@@ -34,9 +34,8 @@ class QLabel;
 
 namespace marivale {
 
-class BankrollPanel;
 class GameFigures;
-class GoalPanel;
+class SessionPage;
 class TrainerPanel;
 
 class StrategyWindow : public QWidget {
@@ -89,14 +88,12 @@ protected:
 private:
     void buildLayout();
     void startGameWork();
-    void startRuinWork();
     void tablesReady();
     void gameOddsReady(const odds::GameOdds& result, int generation);
     void payScaleChanged();
     void analyseDeal();
     void judge(unsigned played);
     void showDealtLabel();
-    void sessionChanged();
 
     GameId game_;
     const GameState& state_;
@@ -118,12 +115,10 @@ private:
     HoldTable* holds_{nullptr};
     TrainerPanel* trainer_{nullptr};
     GameFigures* figures_{nullptr};
-    BankrollPanel* bankroll_{nullptr};
-    GoalPanel* goals_{nullptr};
+    SessionPage* session_{nullptr};
 
-    // Last members: stopped and joined first when the window goes.
+    // Last member: stopped and joined first when the window goes.
     BackgroundJob gameWork_{};
-    BackgroundJob ruinWork_{};
 };
 
 } // namespace marivale

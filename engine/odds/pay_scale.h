@@ -19,6 +19,8 @@ namespace marivale::odds {
 struct PayScale {
     std::array<double, kCodeSlots> multiplier{}; // by code; code 0 pays nothing
     double bonus{0.0};                           // added to a hand that earns the Treasure Hunt
+
+    bool operator==(const PayScale&) const = default;
 };
 
 // The game's own table, with one chest choice's mean bonus on Treasure Trips.

@@ -18,6 +18,7 @@
 #include <QLineSeries>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QValueAxis>
 #include <QtTest>
 
 // Marivale
@@ -309,6 +310,13 @@ void StrategyWindowTest::riskOfRuinFollowsTheBankrollHandsAndBet() {
     strategy.state.BetAmount = 0.25f;
     strategy.window.betChanged();
     QVERIFY(strategy.label("RiskOfRuin").contains(percent(session.riskAt(160))));
+    // The largest bankroll counts its bets in full and stretches the chart no further than twice
+    // the 0.1% risk.
+    bankroll->setValue(10'000'000.0);
+    QVERIFY(strategy.label("RiskOfRuin").contains("(40,000,000 bets of $0.25"));
+    const auto* dollars = qobject_cast<QValueAxis*>(chart->chart()->axes(Qt::Horizontal).front());
+    QVERIFY(dollars->max() <= 4.0 * session.bankrollFor(0.001) * 0.25); // with its nice numbers
+    bankroll->setValue(40.0);
 
     // Fewer hands: a new curve.
     // While it is worked out the chart shows no axes, never a scale of nothing.

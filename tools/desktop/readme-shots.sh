@@ -15,7 +15,7 @@ source "$(dirname "$0")/session.sh"
 OUT="$(realpath -m "${1:-$DESKTOP_REPO/docs}")"
 shift || true
 SHOTS=(main-menu board-tt-dealt board-dw-dealt board-wj-dealt board-jb-dealt board-tt-paid
-    board-dw-paid help strategy treasure-hunt double-up)
+    board-dw-paid help strategy statistics treasure-hunt double-up)
 [ $# -eq 0 ] || SHOTS=("$@")
 
 MENU="Marivale Poker"
@@ -127,6 +127,21 @@ shot_strategy() {
     window_id "Strategy" 10 >/dev/null
     sleep 2 # the odds of the dealt hand are worked out in the background
     echo "Strategy"
+}
+
+shot_statistics() {
+    open_board alt+k "Jacks or Better"
+    local hand
+    for hand in 1 2 3 4 5 6 7 8 9 10 11 12; do
+        send_keys "Jacks or Better" Return
+        sleep 0.3
+        send_keys "Jacks or Better" Return
+        sleep 0.5
+    done
+    send_keys "Jacks or Better" F3
+    window_id "Session Statistics" 10 >/dev/null
+    sleep 3 # the game's odds and every hold's cost are worked out in the background
+    echo "Session Statistics"
 }
 
 shot_treasure-hunt() {

@@ -80,7 +80,7 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     tabs_ = new QTabWidget(this);
     tabs_->setObjectName(QStringLiteral("StatsTabs"));
     chart_ = new CreditChart(tabs_);
-    tabs_->addTab(chart_, tr("&Credits"));
+    tabs_->addTab(chart_, tr("Resu&lt"));
 
     auto* historyPage = new QWidget(tabs_);
     auto* historyLayout = new QVBoxLayout(historyPage);
@@ -109,7 +109,7 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     exportButton->setToolTip(tr("Write the whole hand history to a CSV file"));
     exportRow->addWidget(exportButton);
     historyLayout->addLayout(exportRow);
-    tabs_->addTab(historyPage, tr("&Hand History"));
+    tabs_->addTab(historyPage, tr("Hand H&istory"));
     layout->addWidget(tabs_, 1);
 
     connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);

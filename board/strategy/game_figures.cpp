@@ -144,7 +144,7 @@ void GameFigures::buildTableChoice(QVBoxLayout& layout) {
         tableChoice_->addItem(
             QString::fromUtf8(table.title.data(), static_cast<qsizetype>(table.title.size())));
     }
-    auto* caption = new QLabel(tr("&Table:"), this);
+    auto* caption = new QLabel(tr("Ta&ble:"), this);
     caption->setBuddy(tableChoice_);
     row->addWidget(caption);
     row->addWidget(tableChoice_, 1);

@@ -84,7 +84,7 @@ void StrategyWindow::buildLayout() {
     side->addTab(gamePage, tr("&Game"));
 
     session_ = new SessionPage(state_.BetAmount, side);
-    side->addTab(session_, tr("&Session"));
+    side->addTab(session_, tr("Sessi&on"));
 }
 
 // A window that grows once its figures arrive stays whole on its screen.

@@ -5,11 +5,13 @@
 #include <QtTest>
 
 // Qt
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
 
@@ -17,6 +19,7 @@
 #include "board/board_companions.h"
 #include "board/board_keys.h"
 #include "board/strategy/hold_table.h"
+#include "play/board_captions.h"
 #include "play/stats/session_stats.h"
 #include "tests/support/board_fixture.h"
 
@@ -35,6 +38,7 @@ private slots:
     void companionsStandWholeOnScreen();
     void trainerModeLastsTheRun();
     void historyHandOpensInStrategy();
+    void companionAccessKeysNeverClashWithTheBoards();
     void tooltipsNameTheKeys();
 };
 
@@ -215,6 +219,57 @@ void BoardKeysTest::historyHandOpensInStrategy() {
     f.script("2c 5d 9h Js Kd");
     f.click("DrawDeal");
     QVERIFY(f.find<QLabel>(QStringLiteral("Dealt"))->text().contains(QStringLiteral("$2.00")));
+}
+
+// The access keys of a window's buttons, labels with a buddy and tabs.
+QList<QKeySequence> accessKeys(const QWidget& window) {
+    QList<QKeySequence> keys;
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        keys << QKeySequence::mnemonic(button->text());
+    }
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr) {
+            keys << QKeySequence::mnemonic(label->text());
+        }
+    }
+    for (const QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            keys << QKeySequence::mnemonic(tabs->tabText(tab));
+        }
+    }
+    keys.removeAll(QKeySequence());
+    return keys;
+}
+
+// A companion counts the board as active too, so a shared access key would act on neither: each
+// key of Strategy and the statistics is one the board never uses in any phase.
+void BoardKeysTest::companionAccessKeysNeverClashWithTheBoards() {
+    BoardFixture f(GameId::JacksOrBetter);
+    QList<QKeySequence> board;
+    for (const QPushButton* button : f.board->findChildren<QPushButton*>()) {
+        board << QKeySequence::mnemonic(button->text());
+    }
+    for (const Phase phase : {Phase::BeforeDeal, Phase::Dealt, Phase::DoubleUpChoice}) {
+        for (const std::string_view caption :
+             {phaseCaptions(phase).drawDeal, phaseCaptions(phase).stand}) {
+            board << QKeySequence::mnemonic(QString::fromLatin1(caption.data(), caption.size()));
+        }
+    }
+    QTest::keyClick(f.board.get(), Qt::Key_F2);
+    QTest::keyClick(f.board.get(), Qt::Key_F3);
+    for (const char* name : {"Strategy", "Statistics"}) {
+        const QWidget* companion = f.find<QWidget>(QString::fromLatin1(name));
+        QVERIFY(companion != nullptr);
+        const QList<QKeySequence> keys = accessKeys(*companion);
+        QVERIFY(!keys.isEmpty());
+        for (const QKeySequence& key : keys) {
+            QVERIFY2(
+                !board.contains(key),
+                qPrintable(
+                    QStringLiteral("%1 in %2").arg(key.toString(), QString::fromLatin1(name))));
+            QCOMPARE(keys.count(key), 1);
+        }
+    }
 }
 
 void BoardKeysTest::tooltipsNameTheKeys() {

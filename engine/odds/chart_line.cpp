@@ -214,6 +214,7 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
     }
     if (most >= 2) {
         line.suited = false;
+        line.high = 0;
         const int count = most + line.wild;
         if ((most == 3 && pairs == 1 && line.wild == 0) || (pairs == 2 && line.wild == 1)) {
             line.kind = LineKind::FullHouse;

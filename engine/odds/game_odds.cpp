@@ -31,38 +31,6 @@ struct alignas(64) Totals {
     std::array<std::array<std::uint64_t, kMaxOutcomes>, kHeldCounts> hands{};
 };
 
-// What the game needs of one pay scale: each slot's pay, and for every suit class of the sets
-// of up to four cards what all the hands containing one of its sets pay together.
-struct Pays {
-    OutcomeValues values{};
-    std::array<std::vector<double>, kHandSize> ofClass{};
-    std::array<double, kHeldCounts> draws{};
-    std::array<double, kHeldCounts> perDraw{}; // 1 / draws
-};
-
-Pays paysFor(const DrawTables& tables, const PayScale& scale) {
-    Pays pays;
-    pays.values = outcomeValues(tables, scale);
-    for (int size = 0; size < kHandSize; ++size) {
-        auto& ofClass = pays.ofClass[size];
-        ofClass.resize(tables.classCount(size));
-        for (std::size_t id = 0; id < ofClass.size(); ++id) {
-            OutcomeCounts counts{};
-            tables.addClassCounts(size, static_cast<int>(id), 1, counts);
-            double sum = 0.0;
-            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
-                sum += counts[slot] * pays.values[slot];
-            }
-            ofClass[id] = sum;
-        }
-    }
-    for (int held = 0; held < kHeldCounts; ++held) {
-        pays.draws[held] = static_cast<double>(drawsFor(tables.deckSize(), held));
-        pays.perDraw[held] = 1.0 / pays.draws[held];
-    }
-    return pays;
-}
-
 // Takes from every set without the card at Bit the same set with it, over all 32 sets.
 template <unsigned Bit> void subtractWith(std::array<double, kHoldCount>& sets) {
     for (unsigned base = 0; base < kHoldCount; base += 2 * Bit) {
@@ -92,7 +60,7 @@ void holdCounts(const DrawTables& tables, const SubsetClasses& ids, int dealSlot
 }
 
 // A hold's return as the one-hand analysis works it out, so that ties fall the same way.
-double exactReturn(const OutcomeCounts& counts, const Pays& pays, unsigned held) {
+double exactReturn(const OutcomeCounts& counts, const ClassPays& pays, unsigned held) {
     double paid = 0.0;
     for (int slot = 0; slot < kMaxOutcomes; ++slot) {
         paid += counts[slot] * pays.values[slot];
@@ -102,27 +70,12 @@ double exactReturn(const OutcomeCounts& counts, const Pays& pays, unsigned held)
 
 // Plays one deal class the best way: every hold's pay from the class sums by inclusion and
 // exclusion, then the final hands of the best hold.
-void playClass(const DrawTables& tables, const Pays& pays, const DealClass& deal, int dealSlot,
+void playClass(const DrawTables& tables, const ClassPays& pays, const DealClass& deal, int dealSlot,
                Totals& totals) {
     SubsetClasses ids; // filled by subsetClasses
     tables.subsetClasses(deal.cards, ids);
-    std::array<double, kHoldCount> paid; // every entry set below
-    for (unsigned mask = 0; mask < kAllHeld; ++mask) {
-        paid[mask] = pays.ofClass[kMaskSize[mask]][ids[mask]];
-    }
-    paid[kAllHeld] = pays.values[dealSlot];
-    // After the pass over card b, paid[A] covers the hands that contain A and none of the
-    // discarded cards among those passed.
-    subtractWith<1>(paid);
-    subtractWith<2>(paid);
-    subtractWith<4>(paid);
-    subtractWith<8>(paid);
-    subtractWith<16>(paid);
+    const std::array<double, kHoldCount> expected = holdReturns(pays, ids, dealSlot);
     // A first pick by the returns to within rounding; near ties are settled below.
-    std::array<double, kHoldCount> expected; // every entry set below
-    for (unsigned mask = 0; mask < kHoldCount; ++mask) {
-        expected[mask] = paid[mask] * pays.perDraw[kMaskSize[mask]];
-    }
     unsigned best = 0;
     double most = expected[0];
     for (unsigned mask = 1; mask < kHoldCount; ++mask) {
@@ -163,11 +116,54 @@ void playClass(const DrawTables& tables, const Pays& pays, const DealClass& deal
 
 } // namespace
 
+ClassPays classPaysFor(const DrawTables& tables, const PayScale& scale) {
+    ClassPays pays;
+    pays.values = outcomeValues(tables, scale);
+    for (int size = 0; size < kHandSize; ++size) {
+        auto& ofClass = pays.ofClass[size];
+        ofClass.resize(tables.classCount(size));
+        for (std::size_t id = 0; id < ofClass.size(); ++id) {
+            OutcomeCounts counts{};
+            tables.addClassCounts(size, static_cast<int>(id), 1, counts);
+            double sum = 0.0;
+            for (int slot = 0; slot < kMaxOutcomes; ++slot) {
+                sum += counts[slot] * pays.values[slot];
+            }
+            ofClass[id] = sum;
+        }
+    }
+    for (int held = 0; held < kHeldCounts; ++held) {
+        pays.draws[held] = static_cast<double>(drawsFor(tables.deckSize(), held));
+        pays.perDraw[held] = 1.0 / pays.draws[held];
+    }
+    return pays;
+}
+
+std::array<double, kHoldCount> holdReturns(const ClassPays& pays, const SubsetClasses& ids,
+                                           int dealSlot) {
+    std::array<double, kHoldCount> paid; // every entry set below
+    for (unsigned mask = 0; mask < kAllHeld; ++mask) {
+        paid[mask] = pays.ofClass[kMaskSize[mask]][ids[mask]];
+    }
+    paid[kAllHeld] = pays.values[dealSlot];
+    // After the pass over card b, paid[A] covers the hands that contain A and none of the
+    // discarded cards among those passed.
+    subtractWith<1>(paid);
+    subtractWith<2>(paid);
+    subtractWith<4>(paid);
+    subtractWith<8>(paid);
+    subtractWith<16>(paid);
+    for (unsigned mask = 0; mask < kHoldCount; ++mask) {
+        paid[mask] *= pays.perDraw[kMaskSize[mask]];
+    }
+    return paid;
+}
+
 std::optional<GameOdds> analyzeGame(const DrawTables& tables, const PayScale& scale, int threads,
                                     std::stop_token stop) {
     const std::vector<DealClass>& classes = dealClasses(tables.deckSize());
     const std::span<const std::uint8_t> dealSlots = tables.dealOutcomes();
-    const Pays pays = paysFor(tables, scale);
+    const ClassPays pays = classPaysFor(tables, scale);
 
     threads = std::max(threads, 1);
     std::vector<Totals> totals(threads);

@@ -9,10 +9,12 @@
 #include <cstdint>
 #include <optional>
 #include <stop_token>
+#include <vector>
 
 // Marivale
 #include "engine/game.h"
 #include "engine/odds/draw_tables.h"
+#include "engine/odds/hold_odds.h"
 #include "engine/odds/outcome.h"
 #include "engine/odds/parallel.h"
 #include "engine/odds/pay_scale.h"
@@ -37,6 +39,22 @@ struct GameOdds {
 
     double standardDeviation() const { return std::sqrt(variance); }
 };
+
+// What the game needs of one pay scale: each slot's pay, and for every suit class of the sets
+// of up to four cards what all the hands containing one of its sets pay together.
+struct ClassPays {
+    OutcomeValues values{};
+    std::array<std::vector<double>, kHandSize> ofClass{};
+    std::array<double, kHandSize + 1> draws{};
+    std::array<double, kHandSize + 1> perDraw{}; // 1 / draws
+};
+
+ClassPays classPaysFor(const DrawTables& tables, const PayScale& scale);
+
+// The exact return of every hold of a deal, by mask over its sorted cards, from the suit classes
+// of its subsets and its own outcome slot.
+std::array<double, kHoldCount> holdReturns(const ClassPays& pays, const SubsetClasses& ids,
+                                           int dealSlot);
 
 // Plays every deal of the game's deck the best way under the pay scale; among holds with equal
 // returns the lowest mask over the sorted cards is played. Nothing when stopped early.

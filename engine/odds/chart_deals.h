@@ -1,0 +1,55 @@
+#pragma once
+
+// Every deal of a game up to a renaming of the suits, with the exact return of each of its 32
+// holds under one pay scale and the chart line each hold is: all a chart needs to be played
+// over the whole deck.
+
+// Standard library
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+// Marivale
+#include "engine/odds/chart_line.h"
+#include "engine/odds/draw_tables.h"
+#include "engine/odds/hold_odds.h"
+#include "engine/odds/parallel.h"
+#include "engine/odds/pay_scale.h"
+
+namespace marivale::odds {
+
+struct ChartDeal {
+    std::array<double, kHoldCount> returns{};      // by mask over the sorted cards, in bets
+    std::array<std::uint16_t, kHoldCount> lines{}; // each hold's line, an index into lines()
+    std::uint8_t weight{0};                        // how many deals the class holds
+    std::uint8_t best{0};                          // the lowest mask with the highest return
+};
+
+class ChartDeals {
+public:
+    ChartDeals(const DrawTables& tables, const PayScale& scale, int threads = defaultThreadCount());
+
+    GameId game() const { return game_; }
+    // Every line some hold of some deal is, in the order first met.
+    const std::vector<ChartLine>& lines() const { return lines_; }
+    std::span<const ChartDeal> deals() const { return deals_; }
+    // How many deals the deck has: the classes' weights together.
+    double dealCount() const { return dealCount_; }
+    // The return of the best play of every deal, in bets per bet.
+    double bestReturn() const { return bestReturn_; }
+    // The index of a line in lines(); nothing when no hold is that line.
+    std::optional<int> lineIndex(const ChartLine& line) const;
+
+private:
+    GameId game_;
+    std::vector<ChartLine> lines_{};
+    std::unordered_map<std::uint64_t, int> indexOfKey_{};
+    std::vector<ChartDeal> deals_{};
+    double dealCount_{0.0};
+    double bestReturn_{0.0};
+};
+
+} // namespace marivale::odds

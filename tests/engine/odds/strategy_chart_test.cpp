@@ -1,0 +1,83 @@
+// Charts played over the whole deck: a tiny chart on 9/6 Jacks or Better against a count made
+// here from the holds' own odds, and the best play's return the charts are measured against.
+
+#include <gtest/gtest.h>
+
+// Standard library
+#include <algorithm>
+#include <array>
+#include <vector>
+
+// Marivale
+#include "engine/odds/chart_deals.h"
+#include "engine/odds/deal_classes.h"
+#include "engine/odds/hold_odds.h"
+#include "engine/odds/named_tables.h"
+#include "engine/odds/strategy_chart.h"
+#include "tests/support/odds_test_support.h"
+
+namespace marivale {
+namespace {
+
+#define SKIP_UNLESS_OPTIMISED()                                                                    \
+    if (!testing::kOptimisedBuild) {                                                               \
+        GTEST_SKIP() << "a whole game: optimised builds only";                                     \
+    }
+
+bool isJackOrBetter(CardCode card) {
+    return rankOf(card) == Rank::Ace || rankOf(card) >= Rank::Jack;
+}
+
+// "High Pair, then Discard everything": a deal with two cards of one rank from Jacks up holds the
+// best such pair, any other discards all five.
+TEST(StrategyChart, HighPairThenDiscardEverything) {
+    SKIP_UNLESS_OPTIMISED();
+    const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
+    const odds::PayScale scale = odds::payScaleOf(table);
+    const auto& tables = odds::DrawTables::forGame(table.game);
+
+    double paired = 0.0;
+    double pairedPaid = 0.0;
+    double discardedPaid = 0.0;
+    for (const odds::DealClass& deal : odds::dealClasses(52)) {
+        const odds::HandOdds hand = odds::analyzeHolds(tables, deal.cards, scale);
+        bool found = false;
+        double best = 0.0;
+        for (int a = 0; a < kHandSize; ++a) {
+            for (int b = a + 1; b < kHandSize; ++b) {
+                if (rankOf(deal.cards[a]) == rankOf(deal.cards[b]) &&
+                    isJackOrBetter(deal.cards[a])) {
+                    const double held = hand.holds[(1u << a) | (1u << b)].expectedReturn;
+                    best = found ? std::max(best, held) : held;
+                    found = true;
+                }
+            }
+        }
+        if (found) {
+            paired += deal.weight;
+            pairedPaid += deal.weight * best;
+        } else {
+            discardedPaid += deal.weight * hand.holds[0].expectedReturn;
+        }
+    }
+    const double deals = 2598960.0;
+
+    const odds::ChartDeals chartDeals(tables, scale);
+    const odds::ChartLine highPair{.kind = odds::LineKind::Pair, .held = 2, .highPair = true};
+    const auto pairLine = chartDeals.lineIndex(highPair);
+    const auto discardLine = chartDeals.lineIndex(odds::ChartLine{});
+    ASSERT_TRUE(pairLine && discardLine);
+    const std::array<int, 2> chart{*pairLine, *discardLine};
+    const odds::ChartFigures figures = odds::evaluateChart(chartDeals, chart);
+    EXPECT_NEAR(figures.expectedReturn, (pairedPaid + discardedPaid) / deals, 1e-12);
+    EXPECT_NEAR(figures.cost, 0.995439 - figures.expectedReturn, 5e-7);
+    ASSERT_EQ(figures.uses.size(), 2u);
+    EXPECT_NEAR(figures.uses[0].share, paired / deals, 1e-15);
+    EXPECT_NEAR(figures.uses[0].meanReturn, pairedPaid / paired, 1e-12);
+    EXPECT_NEAR(figures.uses[1].share, 1.0 - paired / deals, 1e-15);
+    EXPECT_NEAR(figures.uses[1].meanReturn, discardedPaid / (deals - paired), 1e-12);
+    EXPECT_NEAR(chartDeals.bestReturn(), 0.995439, 5e-7);
+}
+
+} // namespace
+} // namespace marivale

@@ -124,7 +124,7 @@ std::string drawName(GameId game, const ChartLine& line) {
             text += ", " + counted(line.gaps, "gap", "gaps");
         }
     }
-    if (line.kind != LineKind::RoyalFlush && facts(game).pairPays != PairPays::Nothing) {
+    if (facts(game).pairPays != PairPays::Nothing) {
         text += ", " + counted(line.high, "high card", "high cards");
     }
     return text;
@@ -254,6 +254,11 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
     }
     if (line.kind != LineKind::Cards) {
         line.suited = line.kind != LineKind::Straight && line.suited;
+    }
+    if (line.held == kHandSize && line.kind >= LineKind::Straight) {
+        // A made hand is held for what it pays, whatever its ranks.
+        line.high = 0;
+        line.gaps = 0;
     }
     return line;
 }

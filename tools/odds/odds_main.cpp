@@ -1,14 +1,14 @@
 // marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...
-// [--goal G --stop-loss L]]: plays every deal of a game the best way and prints how often each
-// final hand comes up, the return ("return: 99.5439%") and the variance of one hand's pay in bets
-// squared ("variance: 19.5147").
-// GAME is JB, DW, WJ or TT; the optional multipliers run from the highest code down (ten on
-// DW, nine elsewhere), or NAME names a well-known table; without them the game's own pay table is
-// used. With a bankroll of B bets
-// and a session of N hands it adds the risk of ruin, and the smallest bankroll for each target
-// risk P in percent (1 and 5 unless given). With a win goal of G bets and a stop-loss of L bets
-// it adds the chance of reaching each first, of neither in N hands, and the hands played on
-// average.
+// [--goal G --stop-loss L]] [--chart]: plays every deal of a game the best way and prints how often
+// each final hand comes up, the return ("return: 99.5439%") and the variance of one hand's pay in
+// bets squared ("variance: 19.5147"). GAME is JB, DW, WJ or TT; the optional multipliers run from
+// the highest code down (ten on DW, nine elsewhere), or NAME names a well-known table; without them
+// the game's own pay table is used. With a bankroll of B bets and a session of N hands it adds the
+// risk of ruin, and the smallest bankroll for each target risk P in percent (1 and 5 unless given).
+// With a win goal of G bets and a stop-loss of L bets it adds the chance of reaching each first, of
+// neither in N hands, and the hands played on average. With --chart it prints instead a strategy
+// chart derived for the table, one numbered line each with its share of deals and their return,
+// then the chart's return and its cost.
 
 // Standard library
 #include <charconv>
@@ -24,12 +24,15 @@
 #include "engine/game.h"
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
+#include "engine/odds/chart_deals.h"
+#include "engine/odds/chart_derivation.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
 #include "engine/odds/session_goal.h"
+#include "engine/odds/strategy_chart.h"
 
 namespace {
 
@@ -38,7 +41,7 @@ using namespace marivale;
 int usage() {
     std::fputs("usage: marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk "
                "P]...\n"
-               "                                    [--goal G --stop-loss L]]\n"
+               "                                    [--goal G --stop-loss L]] [--chart]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
@@ -51,7 +54,8 @@ int usage() {
     std::fputs("\n"
                "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
                "  P     a target risk of ruin in percent (1 and 5 unless given)\n"
-               "  G, L  a win goal and a stop-loss in bets\n",
+               "  G, L  a win goal and a stop-loss in bets\n"
+               "  --chart  a strategy chart for the table, its return and its cost\n",
                stderr);
     return 2;
 }
@@ -124,6 +128,22 @@ int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const S
     return session.goal ? printGoals(payouts, session) : 0;
 }
 
+// Derives the table's chart and prints its lines, its return and its cost.
+int printChart(GameId game, const odds::PayScale& scale) {
+    const odds::ChartDeals deals(odds::DrawTables::forGame(game), scale);
+    const std::vector<int> chart = odds::deriveChart(deals);
+    const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
+    int number = 0;
+    for (const odds::LineUse& use : figures.uses) {
+        std::printf("%3d %-56s %8.4f%% %9.4f\n", ++number,
+                    odds::lineName(game, deals.lines()[use.line]).c_str(), 100.0 * use.share,
+                    use.meanReturn);
+    }
+    std::printf("chart return: %.4f%%\n", 100.0 * figures.expectedReturn);
+    std::printf("cost: %.4f%%\n", 100.0 * figures.cost);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -138,8 +158,13 @@ int main(int argc, char** argv) {
     std::vector<double> multipliers;
     Session session;
     const odds::NamedTable* named = nullptr;
+    bool chart = false;
     for (int i = 2; i < argc; ++i) {
         const std::string_view arg = argv[i];
+        if (arg == "--chart") {
+            chart = true;
+            continue;
+        }
         if (arg == "--table") {
             named = i + 1 < argc ? odds::findNamedTable(argv[++i]) : nullptr;
             if (named == nullptr || named->game != *game) {
@@ -195,6 +220,9 @@ int main(int argc, char** argv) {
         scale = *given;
     }
 
+    if (chart) {
+        return ruin ? usage() : printChart(*game, scale);
+    }
     const odds::DrawTables& tables = odds::DrawTables::forGame(*game);
     const std::optional<odds::GameOdds> result = odds::analyzeGame(tables, scale);
     if (!result) {

@@ -28,7 +28,7 @@ constexpr GameId kTT = GameId::TreasureTrips;
 
 const std::array<HoldCase, 30> kHolds{{
     {kJB, "2c 7d 9h Js Kd", 0b00000, "Discard everything"},
-    {kJB, "Ts Js Qs Ks 3d", 0b01111, "4 to a Royal Flush"},
+    {kJB, "Ts Js Qs Ks 3d", 0b01111, "4 to a Royal Flush, 3 high cards"},
     {kJB, "Jh Jd 5c 8s 2c", 0b00011, "High Pair"},
     {kJB, "Ah Ad 5c 8s 2c", 0b00011, "High Pair"},
     {kJB, "5h 5d Kc 8s 2c", 0b00011, "Low Pair"},
@@ -55,7 +55,7 @@ const std::array<HoldCase, 30> kHolds{{
     {kDW, "2c 5h 5d 7s 9c", 0b00111, "Three of a Kind, 1 Deuce"},
     {kDW, "2c 2d 2h 9s 4c", 0b11111, "Four of a Kind, 1 kicker, 3 Deuces"},
     {kWJ, "Jk Ah 7c 9d 4s", 0b00011, "Ace, Joker"},
-    {kWJ, "Jk Kh Qh 9d 4s", 0b00111, "3 to a Royal Flush, Joker"},
+    {kWJ, "Jk Kh Qh 9d 4s", 0b00111, "3 to a Royal Flush, no high cards, Joker"},
     {kTT, "5h 5d Ac 7s 9c", 0b00011, "Pair"},
 }};
 

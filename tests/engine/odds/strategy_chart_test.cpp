@@ -10,6 +10,7 @@
 
 // Marivale
 #include "engine/odds/chart_deals.h"
+#include "engine/odds/chart_derivation.h"
 #include "engine/odds/deal_classes.h"
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/named_tables.h"
@@ -77,6 +78,43 @@ TEST(StrategyChart, HighPairThenDiscardEverything) {
     EXPECT_NEAR(figures.uses[1].share, 1.0 - paired / deals, 1e-15);
     EXPECT_NEAR(figures.uses[1].meanReturn, discardedPaid / (deals - paired), 1e-12);
     EXPECT_NEAR(chartDeals.bestReturn(), 0.995439, 5e-7);
+}
+
+// The first place in the chart of a line that meets the test.
+template <typename Test>
+std::size_t firstPlace(const odds::ChartDeals& deals, const std::vector<int>& chart, Test test) {
+    const auto found = std::find_if(chart.begin(), chart.end(),
+                                    [&](int line) { return test(deals.lines()[line]); });
+    return static_cast<std::size_t>(found - chart.begin());
+}
+
+// The derived chart of 9/6 Jacks or Better loses under 0.005% against the best play, and
+// well-known facts of its strategy hold.
+TEST(StrategyChart, DerivedJacksNineSix) {
+    SKIP_UNLESS_OPTIMISED();
+    const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
+    const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), odds::payScaleOf(table));
+    const std::vector<int> chart = odds::deriveChart(deals);
+    const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
+    EXPECT_LT(figures.cost, 0.00005);
+    EXPECT_GE(figures.cost, 0.0);
+    using odds::LineKind;
+    const auto fourRoyal = firstPlace(deals, chart, [](const odds::ChartLine& line) {
+        return line.kind == LineKind::RoyalFlush && line.held == 4;
+    });
+    const auto flush = firstPlace(deals, chart, [](const odds::ChartLine& line) {
+        return line.kind == LineKind::Flush && line.held == 5;
+    });
+    const auto lowPair = firstPlace(deals, chart, [](const odds::ChartLine& line) {
+        return line.kind == LineKind::Pair && line.held == 2 && !line.highPair;
+    });
+    const auto outside = firstPlace(deals, chart, [](const odds::ChartLine& line) {
+        // 10-J-Q-K, with three high cards, is held above a Low Pair.
+        return line.kind == LineKind::Straight && line.held == 4 && line.gaps == 0 && line.high < 3;
+    });
+    EXPECT_LT(fourRoyal, flush);
+    EXPECT_LT(lowPair, outside);
+    EXPECT_LT(outside, chart.size());
 }
 
 } // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+// A complete chart for a pay table, derived from the exact returns of every hold: the lines that
+// are the best hold of some deal, first in the order the deals prefer them pairwise, then each
+// line moved in turn to the place where the whole chart returns most, until no move gains.
+
+// Standard library
+#include <vector>
+
+// Marivale
+#include "engine/odds/chart_deals.h"
+
+namespace marivale::odds {
+
+// The lines of the chart in order, as indices into deals.lines(); lines that no deal would play
+// are left out.
+std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses = 40);
+
+} // namespace marivale::odds

@@ -38,10 +38,10 @@ bool isHighRank(GameId game, int rank) {
     return false;
 }
 
-// The straights (A-5 up to 10-A) that contain every one of the distinct ranks.
-int straightWays(unsigned rankBits) {
+// The straights from `lowest` (A-5 is 1) up to 10-A that contain every one of the distinct ranks.
+int straightWays(unsigned rankBits, int lowest) {
     int ways = 0;
-    for (int low = 1; low <= kTen; ++low) {
+    for (int low = lowest; low <= kTen; ++low) {
         bool inside = true;
         for (int rank = 0; rank < kRanksPerSuit && inside; ++rank) {
             if ((rankBits >> rank) & 1u) {
@@ -118,9 +118,13 @@ std::string drawName(GameId game, const ChartLine& line) {
     std::string text = std::to_string(line.held) + " to a";
     if (line.kind == LineKind::Straight && line.held == 4) {
         text += line.gaps == 0 ? "n Outside Straight" : "n Inside Straight";
+        if (line.gaps > 1) {
+            text += ", " + counted(line.gaps, "gap", "gaps");
+        }
     } else {
         text += std::string(" ") + kMade[at];
-        if (line.kind == LineKind::StraightFlush || line.kind == LineKind::Straight) {
+        // A royal draw's gaps are named only where they cost it straight flushes.
+        if (line.kind != LineKind::Flush && (line.kind != LineKind::RoyalFlush || line.gaps > 0)) {
             text += ", " + counted(line.gaps, "gap", "gaps");
         }
     }
@@ -226,18 +230,22 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
         }
         return line;
     }
-    const int ways = natural >= 2 && line.held >= 3 ? straightWays(rankBits) : 0;
+    const int ways = natural >= 2 && line.held >= 3 ? straightWays(rankBits, 1) : 0;
+    // Where deuces are wild only a deuce fills a straight's Two place: the draws count the
+    // straights without it.
+    const int drawWays = facts(game).wild == WildCard::Deuces ? straightWays(rankBits, 3) : ways;
+    const auto gaps = static_cast<std::uint8_t>(std::max(0, 6 - natural - drawWays));
     // Three cards of mixed suits read as high cards, never as a straight to draw to.
     const bool straightDraw = ways > 0 && line.held >= 4;
     const bool royal = (rankBits & ~(1u | 0x1e00u)) == 0; // Ace and 10 to King only
     if (line.suited && ways > 0) {
         line.kind = royal ? LineKind::RoyalFlush : LineKind::StraightFlush;
-        line.gaps = royal ? 0 : static_cast<std::uint8_t>(6 - natural - ways);
+        line.gaps = gaps;
     } else if (line.suited && line.held >= 3) {
         line.kind = LineKind::Flush;
     } else if (straightDraw) {
         line.kind = LineKind::Straight;
-        line.gaps = static_cast<std::uint8_t>(6 - natural - ways);
+        line.gaps = gaps;
     } else if (natural > 0 && line.wild >= 2 && (natural == 1 || line.held == kHandSize)) {
         // Wild cards with any natural one make a kind; more naturals would rather draw.
         line.kind = ofAKind(1 + line.wild);

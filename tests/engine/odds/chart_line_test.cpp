@@ -55,7 +55,7 @@ const std::array<HoldCase, 30> kHolds{{
     {kDW, "2c 5h 5d 7s 9c", 0b00111, "Three of a Kind, 1 Deuce"},
     {kDW, "2c 2d 2h 9s 4c", 0b11111, "Four of a Kind, 1 kicker, 3 Deuces"},
     {kWJ, "Jk Ah 7c 9d 4s", 0b00011, "Ace, Joker"},
-    {kWJ, "Jk Kh Qh 9d 4s", 0b00111, "3 to a Royal Flush, no high cards, Joker"},
+    {kWJ, "Jk Kh Qh 9d 4s", 0b00111, "3 to a Royal Flush, 2 gaps, no high cards, Joker"},
     {kTT, "5h 5d Ac 7s 9c", 0b00011, "Pair"},
 }};
 

@@ -175,7 +175,7 @@ std::string baseName(GameId game, const ChartLine& line) {
 std::uint64_t ChartLine::key() const {
     return static_cast<std::uint64_t>(kind) | std::uint64_t{held} << 8 | std::uint64_t{wild} << 16 |
            std::uint64_t{high} << 24 | std::uint64_t{gaps} << 32 | std::uint64_t{suited} << 40 |
-           std::uint64_t{highPair} << 41 | std::uint64_t{ranks} << 48;
+           std::uint64_t{highPair} << 41 | std::uint64_t{threes} << 44 | std::uint64_t{ranks} << 48;
 }
 
 ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, unsigned held) {
@@ -198,6 +198,9 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
         ++ofRank[rankIndex(card)];
         rankBits |= 1u << rankIndex(card);
         suits |= 1u << suitIndex(card);
+        if (rankOf(card) == Rank::Three && facts(game).bonus == Bonus::TreasureHunt) {
+            ++line.threes;
+        }
         if (isHighRank(game, rankIndex(card))) {
             ++line.high;
         }
@@ -230,7 +233,7 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
         }
         return line;
     }
-    const int ways = natural >= 2 && line.held >= 3 ? straightWays(rankBits, 1) : 0;
+    const int ways = natural >= 2 ? straightWays(rankBits, 1) : 0;
     // Where deuces are wild only a deuce fills a straight's Two place: the draws count the
     // straights without it.
     const int drawWays = facts(game).wild == WildCard::Deuces ? straightWays(rankBits, 3) : ways;
@@ -238,7 +241,10 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
     // Three cards of mixed suits read as high cards, never as a straight to draw to.
     const bool straightDraw = ways > 0 && line.held >= 4;
     const bool royal = (rankBits & ~(1u | 0x1e00u)) == 0; // Ace and 10 to King only
-    if (line.suited && ways > 0) {
+    // Two suited cards read by their ranks when they are high or of a royal.
+    const bool suitedDraw =
+        line.suited && ways > 0 && (line.held >= 3 || !(royal || line.high == natural));
+    if (suitedDraw) {
         line.kind = royal ? LineKind::RoyalFlush : LineKind::StraightFlush;
         line.gaps = gaps;
     } else if (line.suited && line.held >= 3) {
@@ -272,14 +278,16 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
 }
 
 std::string lineName(GameId game, const ChartLine& line) {
-    const std::string base = baseName(game, line);
-    std::string text = base;
+    std::string text = baseName(game, line);
     const int kickers = line.held - madeSize(line.kind);
     if (line.kind >= LineKind::Pair && line.kind <= LineKind::FiveKind && kickers > 0) {
         text += ", " + counted(kickers, "kicker", "kickers");
     }
+    if (line.threes > 0) {
+        text += (text.empty() ? "" : ", ") + counted(line.threes, "Three", "Threes");
+    }
     if (line.wild > 0) {
-        text += (base.empty() ? "" : ", ") + wildText(game, line.wild);
+        text += (text.empty() ? "" : ", ") + wildText(game, line.wild);
     }
     return text;
 }

@@ -38,6 +38,7 @@ struct ChartLine {
     std::uint8_t gaps{0};   // straights the draw misses against the best of its size
     bool suited{false};     // two or more natural cards held, all of one suit
     bool highPair{false};   // the pair is of a rank that pays
+    std::uint8_t threes{0}; // natural Threes held where three of them earn the Treasure Hunt
     std::uint16_t ranks{0}; // a few high cards held: their rank indices, one bit each
 
     friend bool operator==(const ChartLine&, const ChartLine&) = default;

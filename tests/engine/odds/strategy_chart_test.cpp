@@ -80,41 +80,87 @@ TEST(StrategyChart, HighPairThenDiscardEverything) {
     EXPECT_NEAR(chartDeals.bestReturn(), 0.995439, 5e-7);
 }
 
+using LineTest = bool (*)(const odds::ChartLine&);
+
 // The first place in the chart of a line that meets the test.
-template <typename Test>
-std::size_t firstPlace(const odds::ChartDeals& deals, const std::vector<int>& chart, Test test) {
+std::size_t firstPlace(const odds::ChartDeals& deals, const std::vector<int>& chart,
+                       LineTest test) {
     const auto found = std::find_if(chart.begin(), chart.end(),
                                     [&](int line) { return test(deals.lines()[line]); });
     return static_cast<std::size_t>(found - chart.begin());
 }
 
-// The derived chart of 9/6 Jacks or Better loses under 0.005% against the best play, and
-// well-known facts of its strategy hold.
-TEST(StrategyChart, DerivedJacksNineSix) {
+using odds::ChartLine;
+using odds::LineKind;
+
+struct Fact {
+    const char* what;
+    LineTest above;
+    LineTest below;
+};
+
+struct DerivedCase {
+    const char* table;
+    double mostCost; // against the best play, in bets per bet
+    std::vector<Fact> facts;
+};
+
+// The complete charts of the two well-known tables lose less than the issue allows, and the
+// strategy facts players know land in the right order.
+TEST(StrategyChart, DerivedChartsOfWellKnownTables) {
     SKIP_UNLESS_OPTIMISED();
-    const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
-    const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), odds::payScaleOf(table));
-    const std::vector<int> chart = odds::deriveChart(deals);
-    const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
-    EXPECT_LT(figures.cost, 0.00005);
-    EXPECT_GE(figures.cost, 0.0);
-    using odds::LineKind;
-    const auto fourRoyal = firstPlace(deals, chart, [](const odds::ChartLine& line) {
-        return line.kind == LineKind::RoyalFlush && line.held == 4;
-    });
-    const auto flush = firstPlace(deals, chart, [](const odds::ChartLine& line) {
-        return line.kind == LineKind::Flush && line.held == 5;
-    });
-    const auto lowPair = firstPlace(deals, chart, [](const odds::ChartLine& line) {
-        return line.kind == LineKind::Pair && line.held == 2 && !line.highPair;
-    });
-    const auto outside = firstPlace(deals, chart, [](const odds::ChartLine& line) {
-        // 10-J-Q-K, with three high cards, is held above a Low Pair.
-        return line.kind == LineKind::Straight && line.held == 4 && line.gaps == 0 && line.high < 3;
-    });
-    EXPECT_LT(fourRoyal, flush);
-    EXPECT_LT(lowPair, outside);
-    EXPECT_LT(outside, chart.size());
+    const auto fourRoyal = [](const ChartLine& line) {
+        return line.kind == LineKind::RoyalFlush && line.held == 4 && line.wild == 0;
+    };
+    const std::vector<DerivedCase> cases{
+        {"jacks-9-6",
+         0.00005,
+         {{"a 4-card Royal above a dealt Flush", fourRoyal,
+           [](const ChartLine& line) {
+               return line.kind == LineKind::Flush && line.held == 5;
+           }},
+          {"a Low Pair above 4 to an outside Straight (10-J-Q-K apart)",
+           [](const ChartLine& line) {
+               return line.kind == LineKind::Pair && line.held == 2 && !line.highPair;
+           },
+           [](const ChartLine& line) {
+               return line.kind == LineKind::Straight && line.held == 4 && line.gaps == 0 &&
+                      line.high < 3;
+           }}}},
+        {"deuces-full-pay",
+         0.0001,
+         {{"no deuce: a 4-card Royal above a dealt Straight", fourRoyal,
+           [](const ChartLine& line) {
+               return line.kind == LineKind::Straight && line.held == 5 && line.wild == 0;
+           }}}},
+    };
+    for (const DerivedCase& derived : cases) {
+        SCOPED_TRACE(derived.table);
+        const odds::NamedTable& table = *odds::findNamedTable(derived.table);
+        const odds::ChartDeals deals(odds::DrawTables::forGame(table.game),
+                                     odds::payScaleOf(table));
+        const std::vector<int> chart = odds::deriveChart(deals);
+        const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
+        EXPECT_LT(figures.cost, derived.mostCost);
+        EXPECT_GE(figures.cost, 0.0);
+        for (const Fact& fact : derived.facts) {
+            const std::size_t below = firstPlace(deals, chart, fact.below);
+            EXPECT_LT(firstPlace(deals, chart, fact.above), below) << fact.what;
+            EXPECT_LT(below, chart.size()) << fact.what;
+        }
+    }
+}
+
+// The complete chart of each board's own table, Treasure Trips with its chest, loses under 0.02%.
+TEST(StrategyChart, DerivedChartsOfOwnTables) {
+    SKIP_UNLESS_OPTIMISED();
+    for (const GameId game : kAllGames) {
+        SCOPED_TRACE(shortName(game));
+        const odds::ChartDeals deals(odds::DrawTables::forGame(game), odds::ownPayScale(game));
+        const odds::ChartFigures figures = odds::evaluateChart(deals, odds::deriveChart(deals));
+        EXPECT_LT(figures.cost, 0.0002);
+        EXPECT_GE(figures.cost, 0.0);
+    }
 }
 
 } // namespace

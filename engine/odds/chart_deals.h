@@ -28,13 +28,23 @@ struct ChartDeal {
     std::uint8_t best{0};                          // the lowest mask with the highest return
 };
 
+// The line of every hold of every deal class of a game; they never depend on the pay table.
+struct DealLines {
+    std::vector<ChartLine> lines{}; // every line, in the order first met
+    std::unordered_map<std::uint64_t, int> indexOfKey{};
+    std::vector<std::array<std::uint16_t, kHoldCount>> ofDeal{}; // by class, then hold mask
+};
+
+// The game's lines, built once on first use.
+const DealLines& dealLines(GameId game);
+
 class ChartDeals {
 public:
     ChartDeals(const DrawTables& tables, const PayScale& scale, int threads = defaultThreadCount());
 
     GameId game() const { return game_; }
     // Every line some hold of some deal is, in the order first met.
-    const std::vector<ChartLine>& lines() const { return lines_; }
+    const std::vector<ChartLine>& lines() const { return lines_->lines; }
     std::span<const ChartDeal> deals() const { return deals_; }
     // How many deals the deck has: the classes' weights together.
     double dealCount() const { return dealCount_; }
@@ -45,8 +55,7 @@ public:
 
 private:
     GameId game_;
-    std::vector<ChartLine> lines_{};
-    std::unordered_map<std::uint64_t, int> indexOfKey_{};
+    const DealLines* lines_{nullptr};
     std::vector<ChartDeal> deals_{};
     double dealCount_{0.0};
     double bestReturn_{0.0};

@@ -1,5 +1,6 @@
 // How fast a strategy chart is derived for a pay table, the game's tables built beforehand: the
-// deals' holds and lines, the chart's order, and its exact return, each apart and all together.
+// deals' holds and lines, the chart's order, a simple chart, and the exact return, each apart and
+// all together.
 
 // Standard library
 #include <string>
@@ -54,6 +55,18 @@ void wholeChart(benchmark::State& bench, const Table& table) {
     bench.counters["cost%"] = 100.0 * figures.cost;
 }
 
+// A simple chart of 15 lines from the complete one, the deals' holds and lines built beforehand.
+void simpleChart(benchmark::State& bench, const Table& table) {
+    const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), table.scale);
+    odds::ChartFigures figures;
+    for (auto _ : bench) {
+        const std::vector<int> chart = odds::simplifyChart(deals, odds::deriveChart(deals), 15);
+        figures = odds::evaluateChart(deals, chart);
+        benchmark::DoNotOptimize(figures.expectedReturn);
+    }
+    bench.counters["cost%"] = 100.0 * figures.cost;
+}
+
 // Only the order of the lines, the deals' holds and lines built beforehand.
 void derivation(benchmark::State& bench, const Table& table) {
     const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), table.scale);
@@ -82,6 +95,10 @@ int main(int argc, char** argv) {
             ->UseRealTime()
             ->Iterations(3);
         benchmark::RegisterBenchmark(("ChartOrder/" + table.name).c_str(), derivation, table)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(3);
+        benchmark::RegisterBenchmark(("SimpleChart/" + table.name).c_str(), simpleChart, table)
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime()
             ->Iterations(3);

@@ -3,6 +3,7 @@
 // Standard library
 #include <algorithm>
 #include <numeric>
+#include <span>
 
 // Marivale
 #include "engine/odds/strategy_chart.h"
@@ -41,37 +42,47 @@ int presentLines(const ChartDeal& deal, const std::vector<int>& candidateOf,
 
 class Derivation {
 public:
-    explicit Derivation(const ChartDeals& deals) : deals_(deals) {
+    // The lines of `chart` in its order, or with no chart every line that is some deal's best
+    // hold, in the order of the deals' pairwise preference.
+    Derivation(const ChartDeals& deals, std::span<const int> chart) : deals_(deals) {
         candidateOf_.assign(deals.lines().size(), -1);
-        for (const ChartDeal& deal : deals.deals()) {
-            addCandidate(deal.lines[deal.best]);
+        for (const int line : chart) {
+            addCandidate(line);
         }
-        addCandidate(*deals.lineIndex(ChartLine{}));
+        if (chart.empty()) {
+            for (const ChartDeal& deal : deals.deals()) {
+                addCandidate(deal.lines[deal.best]);
+            }
+            addCandidate(*deals.lineIndex(ChartLine{}));
+        }
         const int count = static_cast<int>(candidates_.size());
         containing_.resize(count);
-        std::vector<double> preference(static_cast<std::size_t>(count) * count, 0.0);
+        std::vector<double> preference(chart.empty() ? static_cast<std::size_t>(count) * count : 0,
+                                       0.0);
         std::array<Present, kHoldCount> present{};
         const auto all = deals.deals();
         for (std::size_t d = 0; d < all.size(); ++d) {
             const int n = presentLines(all[d], candidateOf_, present);
             for (int a = 0; a < n; ++a) {
                 containing_[present[a].line].push_back(static_cast<int>(d));
-                for (int b = 0; b < n; ++b) {
+                for (int b = 0; b < n && !preference.empty(); ++b) {
                     preference[present[a].line * count + present[b].line] +=
                         all[d].weight * (present[a].value - present[b].value);
                 }
             }
         }
-        // Lines that beat the most, by how much, come first.
-        std::vector<double> score(count, 0.0);
-        for (int a = 0; a < count; ++a) {
-            score[a] = std::accumulate(preference.begin() + a * count,
-                                       preference.begin() + (a + 1) * count, 0.0);
-        }
         order_.resize(count);
         std::iota(order_.begin(), order_.end(), 0);
-        std::stable_sort(order_.begin(), order_.end(),
-                         [&](int a, int b) { return score[a] > score[b]; });
+        if (!preference.empty()) {
+            // Lines that beat the most, by how much, come first.
+            std::vector<double> score(count, 0.0);
+            for (int a = 0; a < count; ++a) {
+                score[a] = std::accumulate(preference.begin() + a * count,
+                                           preference.begin() + (a + 1) * count, 0.0);
+            }
+            std::stable_sort(order_.begin(), order_.end(),
+                             [&](int a, int b) { return score[a] > score[b]; });
+        }
         place_.resize(count);
         renumber();
     }
@@ -170,15 +181,15 @@ private:
     std::vector<int> place_{};                   // by candidate: its place in order_
 };
 
-} // namespace
-
-std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses) {
-    Derivation derivation(deals);
+// Orders the lines of `chart` (every best hold's line when empty) until no move gains, and
+// leaves out the lines no deal plays.
+std::vector<int> orderLines(const ChartDeals& deals, std::span<const int> chart, int maxPasses) {
+    Derivation derivation(deals, chart);
     for (int pass = 0; pass < maxPasses && derivation.improve(); ++pass) {
     }
-    std::vector<int> chart = derivation.chart();
+    std::vector<int> ordered = derivation.chart();
     // A line no deal plays changes nothing where it stands.
-    const ChartFigures figures = evaluateChart(deals, chart);
+    const ChartFigures figures = evaluateChart(deals, ordered);
     std::vector<int> used;
     for (const LineUse& use : figures.uses) {
         if (use.share > 0.0) {
@@ -186,6 +197,59 @@ std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses) {
         }
     }
     return used;
+}
+
+// What each line of the chart is worth: the return lost, over all deals, were it left out.
+std::vector<double> lineWorths(const ChartDeals& deals, std::span<const int> chart) {
+    const std::vector<int> places = chartPlaces(deals, chart);
+    std::vector<double> worth(chart.size(), 0.0);
+    for (const ChartDeal& deal : deals.deals()) {
+        const unsigned hold = chartHold(deal, places);
+        const int place = places[deal.lines[hold]];
+        if (place == kUnlisted) {
+            continue;
+        }
+        // The hold played were the line left out.
+        unsigned next = 0;
+        int nextPlace = kUnlisted;
+        for (unsigned mask = 0; mask < kHoldCount; ++mask) {
+            const int at = places[deal.lines[mask]];
+            if (at != place && (at < nextPlace || (at == nextPlace && at != kUnlisted &&
+                                                   deal.returns[mask] > deal.returns[next]))) {
+                nextPlace = at;
+                next = mask;
+            }
+        }
+        const unsigned instead = nextPlace == kUnlisted ? 0u : next;
+        worth[place] += deal.weight * (deal.returns[hold] - deal.returns[instead]);
+    }
+    return worth;
+}
+
+} // namespace
+
+std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses) {
+    return orderLines(deals, {}, maxPasses);
+}
+
+std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> chart, int maxLines,
+                               int maxPasses) {
+    std::vector<int> kept(chart.begin(), chart.end());
+    const int discard = *deals.lineIndex(ChartLine{});
+    while (static_cast<int>(kept.size()) > std::max(maxLines, 1)) {
+        const std::vector<double> worth = lineWorths(deals, kept);
+        std::size_t least = kept.size();
+        for (std::size_t at = 0; at < kept.size(); ++at) {
+            if (kept[at] != discard && (least == kept.size() || worth[at] < worth[least])) {
+                least = at;
+            }
+        }
+        if (least == kept.size()) {
+            break;
+        }
+        kept.erase(kept.begin() + static_cast<long>(least));
+    }
+    return orderLines(deals, kept, maxPasses);
 }
 
 } // namespace marivale::odds

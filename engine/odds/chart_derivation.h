@@ -5,6 +5,7 @@
 // line moved in turn to the place where the whole chart returns most, until no move gains.
 
 // Standard library
+#include <span>
 #include <vector>
 
 // Marivale
@@ -15,5 +16,10 @@ namespace marivale::odds {
 // The lines of the chart in order, as indices into deals.lines(); lines that no deal would play
 // are left out.
 std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses = 40);
+
+// A chart of at most `maxLines` lines from a complete one: the line whose loss costs least is left
+// out, one at a time ("Discard everything" stays), then the rest is ordered again.
+std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> chart, int maxLines,
+                               int maxPasses = 40);
 
 } // namespace marivale::odds

@@ -1,14 +1,14 @@
 // marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...
-// [--goal G --stop-loss L]] [--chart]: plays every deal of a game the best way and prints how often
-// each final hand comes up, the return ("return: 99.5439%") and the variance of one hand's pay in
-// bets squared ("variance: 19.5147"). GAME is JB, DW, WJ or TT; the optional multipliers run from
-// the highest code down (ten on DW, nine elsewhere), or NAME names a well-known table; without them
-// the game's own pay table is used. With a bankroll of B bets and a session of N hands it adds the
-// risk of ruin, and the smallest bankroll for each target risk P in percent (1 and 5 unless given).
-// With a win goal of G bets and a stop-loss of L bets it adds the chance of reaching each first, of
-// neither in N hands, and the hands played on average. With --chart it prints instead a strategy
-// chart derived for the table, one numbered line each with its share of deals and their return,
-// then the chart's return and its cost.
+// [--goal G --stop-loss L]] [--chart [simple]]: plays every deal of a game the best way and prints
+// how often each final hand comes up, the return ("return: 99.5439%") and the variance of one
+// hand's pay in bets squared ("variance: 19.5147"). GAME is JB, DW, WJ or TT; the optional
+// multipliers run from the highest code down (ten on DW, nine elsewhere), or NAME names a
+// well-known table; without them the game's own pay table is used. With a bankroll of B bets and a
+// session of N hands it adds the risk of ruin, and the smallest bankroll for each target risk P in
+// percent (1 and 5 unless given). With a win goal of G bets and a stop-loss of L bets it adds the
+// chance of reaching each first, of neither in N hands, and the hands played on average. With
+// --chart it prints instead a strategy chart derived for the table, one numbered line each with its
+// share of deals and their return, then the chart's return and its cost.
 
 // Standard library
 #include <charconv>
@@ -41,7 +41,7 @@ using namespace marivale;
 int usage() {
     std::fputs("usage: marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk "
                "P]...\n"
-               "                                    [--goal G --stop-loss L]] [--chart]\n"
+               "                                    [--goal G --stop-loss L]] [--chart [simple]]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
@@ -51,12 +51,14 @@ int usage() {
     for (const odds::NamedTable& table : odds::namedTables()) {
         std::fprintf(stderr, " %s", std::string(table.name).c_str());
     }
-    std::fputs("\n"
-               "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
-               "  P     a target risk of ruin in percent (1 and 5 unless given)\n"
-               "  G, L  a win goal and a stop-loss in bets\n"
-               "  --chart  a strategy chart for the table, its return and its cost\n",
-               stderr);
+    std::fputs(
+        "\n"
+        "  B     the bankroll in bets; N the hands of the session (at most 20000)\n"
+        "  P     a target risk of ruin in percent (1 and 5 unless given)\n"
+        "  G, L  a win goal and a stop-loss in bets\n"
+        "  --chart  a strategy chart for the table, its return and its cost; simple: at most 15 "
+        "lines\n",
+        stderr);
     return 2;
 }
 
@@ -129,9 +131,13 @@ int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const S
 }
 
 // Derives the table's chart and prints its lines, its return and its cost.
-int printChart(GameId game, const odds::PayScale& scale) {
+int printChart(GameId game, const odds::PayScale& scale, bool simple) {
+    constexpr int kSimpleLines = 15;
     const odds::ChartDeals deals(odds::DrawTables::forGame(game), scale);
-    const std::vector<int> chart = odds::deriveChart(deals);
+    std::vector<int> chart = odds::deriveChart(deals);
+    if (simple) {
+        chart = odds::simplifyChart(deals, chart, kSimpleLines);
+    }
     const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
     int number = 0;
     for (const odds::LineUse& use : figures.uses) {
@@ -159,10 +165,15 @@ int main(int argc, char** argv) {
     Session session;
     const odds::NamedTable* named = nullptr;
     bool chart = false;
+    bool simple = false;
     for (int i = 2; i < argc; ++i) {
         const std::string_view arg = argv[i];
         if (arg == "--chart") {
             chart = true;
+            if (i + 1 < argc && std::string_view(argv[i + 1]) == "simple") {
+                simple = true;
+                ++i;
+            }
             continue;
         }
         if (arg == "--table") {
@@ -221,7 +232,7 @@ int main(int argc, char** argv) {
     }
 
     if (chart) {
-        return ruin ? usage() : printChart(*game, scale);
+        return ruin ? usage() : printChart(*game, scale, simple);
     }
     const odds::DrawTables& tables = odds::DrawTables::forGame(*game);
     const std::optional<odds::GameOdds> result = odds::analyzeGame(tables, scale);

@@ -151,6 +151,21 @@ TEST(StrategyChart, DerivedChartsOfWellKnownTables) {
     }
 }
 
+// A simple chart of 9/6 Jacks or Better keeps at most 15 lines, "Discard everything" among
+// them, and costs more than the complete chart it comes from.
+TEST(StrategyChart, SimpleChartOfJacksNineSix) {
+    SKIP_UNLESS_OPTIMISED();
+    const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
+    const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), odds::payScaleOf(table));
+    const std::vector<int> complete = odds::deriveChart(deals);
+    const std::vector<int> simple = odds::simplifyChart(deals, complete, 15);
+    EXPECT_LE(simple.size(), 15u);
+    EXPECT_NE(std::find(simple.begin(), simple.end(), *deals.lineIndex(ChartLine{})), simple.end());
+    const double cost = odds::evaluateChart(deals, simple).cost;
+    EXPECT_GT(cost, odds::evaluateChart(deals, complete).cost);
+    EXPECT_LT(cost, 0.05);
+}
+
 // The complete chart of each board's own table, Treasure Trips with its chest, loses under 0.02%.
 TEST(StrategyChart, DerivedChartsOfOwnTables) {
     SKIP_UNLESS_OPTIMISED();

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kChunk = 512;
 
-std::unique_ptr<DealLines> buildLines(GameId game, int threads) {
+std::unique_ptr<DealLines> buildLines(GameId game, ChartKind kind, int threads) {
     const std::vector<DealClass>& classes = dealClasses(deckSize(game));
     std::vector<std::array<std::uint64_t, kHoldCount>> keys(classes.size());
     const int chunks = static_cast<int>((classes.size() + kChunk - 1) / kChunk);
@@ -22,7 +22,7 @@ std::unique_ptr<DealLines> buildLines(GameId game, int threads) {
         const std::size_t last = std::min(classes.size(), first + kChunk);
         for (std::size_t i = first; i < last; ++i) {
             for (unsigned mask = 0; mask < kHoldCount; ++mask) {
-                keys[i][mask] = chartLineOf(game, classes[i].cards, mask).key();
+                keys[i][mask] = chartLineOf(kind, game, classes[i].cards, mask).key();
             }
         }
     });
@@ -34,7 +34,7 @@ std::unique_ptr<DealLines> buildLines(GameId game, int threads) {
             const auto [at, added] =
                 built->indexOfKey.try_emplace(keys[i][mask], static_cast<int>(built->lines.size()));
             if (added) {
-                built->lines.push_back(chartLineOf(game, classes[i].cards, mask));
+                built->lines.push_back(chartLineOf(kind, game, classes[i].cards, mask));
             }
             built->ofDeal[i][mask] = static_cast<std::uint16_t>(at->second);
         }
@@ -44,18 +44,18 @@ std::unique_ptr<DealLines> buildLines(GameId game, int threads) {
 
 } // namespace
 
-const DealLines& dealLines(GameId game) {
-    static std::array<StoppableOnce<DealLines>, kGameCount> byGame{};
-    return *byGame[gameIndex(game)].get(
-        {}, [game](std::stop_token) { return buildLines(game, defaultThreadCount()); });
+const DealLines& dealLines(GameId game, ChartKind kind) {
+    static std::array<std::array<StoppableOnce<DealLines>, 2>, kGameCount> byGame{};
+    return *byGame[gameIndex(game)][static_cast<std::size_t>(kind)].get(
+        {}, [game, kind](std::stop_token) { return buildLines(game, kind, defaultThreadCount()); });
 }
 
-ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, int threads)
-    : game_(tables.game()) {
+ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, ChartKind kind, int threads)
+    : game_(tables.game()), kind_(kind) {
     const std::vector<DealClass>& classes = dealClasses(tables.deckSize());
     const std::span<const std::uint8_t> dealSlots = tables.dealOutcomes();
     const ClassPays pays = classPaysFor(tables, scale);
-    lines_ = &dealLines(game_);
+    lines_ = &dealLines(game_, kind_);
     deals_.resize(classes.size());
     const int chunks = static_cast<int>((classes.size() + kChunk - 1) / kChunk);
     parallelFor(chunks, std::max(threads, 1), [&](int, int chunk) {

@@ -35,14 +35,16 @@ struct DealLines {
     std::vector<std::array<std::uint16_t, kHoldCount>> ofDeal{}; // by class, then hold mask
 };
 
-// The game's lines, built once on first use.
-const DealLines& dealLines(GameId game);
+// The game's lines as a chart of the kind reads them, built once on first use.
+const DealLines& dealLines(GameId game, ChartKind kind);
 
 class ChartDeals {
 public:
-    ChartDeals(const DrawTables& tables, const PayScale& scale, int threads = defaultThreadCount());
+    ChartDeals(const DrawTables& tables, const PayScale& scale,
+               ChartKind kind = ChartKind::Complete, int threads = defaultThreadCount());
 
     GameId game() const { return game_; }
+    ChartKind kind() const { return kind_; }
     // Every line some hold of some deal is, in the order first met.
     const std::vector<ChartLine>& lines() const { return lines_->lines; }
     std::span<const ChartDeal> deals() const { return deals_; }
@@ -55,6 +57,7 @@ public:
 
 private:
     GameId game_;
+    ChartKind kind_{ChartKind::Complete};
     const DealLines* lines_{nullptr};
     std::vector<ChartDeal> deals_{};
     double dealCount_{0.0};

@@ -118,17 +118,18 @@ std::string drawName(GameId game, const ChartLine& line) {
     std::string text = std::to_string(line.held) + " to a";
     if (line.kind == LineKind::Straight && line.held == 4) {
         text += line.gaps == 0 ? "n Outside Straight" : "n Inside Straight";
-        if (line.gaps > 1) {
+        if (line.gaps > 1 && line.gaps != kAnyCount) {
             text += ", " + counted(line.gaps, "gap", "gaps");
         }
     } else {
         text += std::string(" ") + kMade[at];
         // A royal draw's gaps are named only where they cost it straight flushes.
-        if (line.kind != LineKind::Flush && (line.kind != LineKind::RoyalFlush || line.gaps > 0)) {
+        if (line.kind != LineKind::Flush && line.gaps != kAnyCount &&
+            (line.kind != LineKind::RoyalFlush || line.gaps > 0)) {
             text += ", " + counted(line.gaps, "gap", "gaps");
         }
     }
-    if (facts(game).pairPays != PairPays::Nothing) {
+    if (facts(game).pairPays != PairPays::Nothing && line.high != kAnyCount) {
         text += ", " + counted(line.high, "high card", "high cards");
     }
     return text;
@@ -147,6 +148,11 @@ std::string baseName(GameId game, const ChartLine& line) {
             return natural == 1 ? ranksText(line.ranks)
                                 : (line.suited ? "Suited " : "Unsuited ") + ranksText(line.ranks);
         }
+        if (line.high == natural && natural > 0) {
+            return natural == 1 ? "1 high card"
+                                : std::to_string(natural) +
+                                      (line.suited ? " suited" : " unsuited") + " high cards";
+        }
         return counted(natural, "card", "cards") + (line.suited ? " suited" : "") +
                (facts(game).pairPays != PairPays::Nothing
                     ? ", " + counted(line.high, "high card", "high cards")
@@ -158,11 +164,12 @@ std::string baseName(GameId game, const ChartLine& line) {
     case LineKind::TwoPair:
         return "Two Pair";
     case LineKind::ThreeKind:
-        return "Three of a Kind";
+        return line.held == kAnyCount ? "Three of a Kind, Straight, Flush or Full House"
+                                      : "Three of a Kind";
     case LineKind::FullHouse:
         return "Full House";
     case LineKind::FourKind:
-        return "Four of a Kind";
+        return line.held == kAnyCount ? "Four of a Kind or better" : "Four of a Kind";
     case LineKind::FiveKind:
         return "Five of a Kind";
     default:
@@ -277,16 +284,59 @@ ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, un
     return line;
 }
 
+namespace {
+
+// The line as a short chart reads it: a made kind without its kickers, a draw without its high
+// cards (and a straight's gaps only as outside or inside), other cards without their ranks.
+ChartLine simpleLine(GameId game, const ChartLine& full) {
+    ChartLine line = full;
+    // Wild cards alone, three or more of them, make at least four of a kind.
+    const bool wildKind = line.kind == LineKind::Cards && line.held == line.wild && line.wild >= 3;
+    const bool made = line.held == kHandSize || line.kind == LineKind::ThreeKind ||
+                      line.kind == LineKind::FourKind || line.kind == LineKind::FiveKind ||
+                      wildKind;
+    if (made && (line.kind >= LineKind::ThreeKind || wildKind)) {
+        // Made hands go in two groups: those above every draw, and the rest.
+        const bool top = line.kind == LineKind::FourKind || line.kind >= LineKind::StraightFlush ||
+                         line.kind == LineKind::FiveKind || wildKind;
+        return ChartLine{.kind = top ? LineKind::FourKind : LineKind::ThreeKind,
+                         .held = kAnyCount,
+                         .wild = facts(game).wild == WildCard::None ? std::uint8_t{0} : kAnyCount,
+                         .threes = static_cast<std::uint8_t>(line.threes >= 3 ? 3 : 0)};
+    }
+    if (line.kind >= LineKind::Pair && line.kind <= LineKind::FiveKind) {
+        line.held = static_cast<std::uint8_t>(std::min<int>(line.held, madeSize(line.kind)));
+        line.threes = line.threes >= 2 ? line.threes : 0;
+    } else if (line.kind >= LineKind::Straight && line.held < kHandSize) {
+        line.high = kAnyCount;
+        line.threes = 0;
+        line.gaps =
+            line.kind == LineKind::Straight ? std::min<std::uint8_t>(line.gaps, 1) : kAnyCount;
+        line.wild = facts(game).wild == WildCard::None ? std::uint8_t{0} : kAnyCount;
+    } else if (line.kind == LineKind::Cards) {
+        line.ranks = 0;
+    }
+    return line;
+}
+
+} // namespace
+
+ChartLine chartLineOf(ChartKind kind, GameId game, std::span<const CardCode, kHandSize> deal,
+                      unsigned held) {
+    const ChartLine line = chartLineOf(game, deal, held);
+    return kind == ChartKind::Simple ? simpleLine(game, line) : line;
+}
+
 std::string lineName(GameId game, const ChartLine& line) {
     std::string text = baseName(game, line);
-    const int kickers = line.held - madeSize(line.kind);
+    const int kickers = line.held == kAnyCount ? 0 : line.held - madeSize(line.kind);
     if (line.kind >= LineKind::Pair && line.kind <= LineKind::FiveKind && kickers > 0) {
         text += ", " + counted(kickers, "kicker", "kickers");
     }
     if (line.threes > 0) {
         text += (text.empty() ? "" : ", ") + counted(line.threes, "Three", "Threes");
     }
-    if (line.wild > 0) {
+    if (line.wild > 0 && line.wild != kAnyCount) {
         text += (text.empty() ? "" : ", ") + wildText(game, line.wild);
     }
     return text;

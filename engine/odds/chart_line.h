@@ -15,6 +15,10 @@
 
 namespace marivale::odds {
 
+// How finely a chart tells holds apart: every detail a complete chart needs, or the few a short
+// chart reads by.
+enum class ChartKind : std::uint8_t { Complete, Simple };
+
 enum class LineKind : std::uint8_t {
     Discard, // nothing held
     Cards,   // cards that make and draw to nothing in particular
@@ -29,6 +33,9 @@ enum class LineKind : std::uint8_t {
     StraightFlush,
     RoyalFlush,
 };
+
+// A count a line does not care about.
+inline constexpr std::uint8_t kAnyCount = 0xFF;
 
 struct ChartLine {
     LineKind kind{LineKind::Discard};
@@ -49,6 +56,10 @@ struct ChartLine {
 
 // The line of the cards `held` (bit p for position p) of a deal of the game.
 ChartLine chartLineOf(GameId game, std::span<const CardCode, kHandSize> deal, unsigned held);
+
+// The line of the cards `held` as a chart of the kind reads it.
+ChartLine chartLineOf(ChartKind kind, GameId game, std::span<const CardCode, kHandSize> deal,
+                      unsigned held);
 
 // How a chart names the line: "4 to a Royal Flush", "High Pair", "Suited QJ".
 std::string lineName(GameId game, const ChartLine& line);

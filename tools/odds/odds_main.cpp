@@ -1,14 +1,16 @@
 // marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk P]...
-// [--goal G --stop-loss L]] [--chart [simple]]: plays every deal of a game the best way and prints
-// how often each final hand comes up, the return ("return: 99.5439%") and the variance of one
-// hand's pay in bets squared ("variance: 19.5147"). GAME is JB, DW, WJ or TT; the optional
-// multipliers run from the highest code down (ten on DW, nine elsewhere), or NAME names a
-// well-known table; without them the game's own pay table is used. With a bankroll of B bets and a
-// session of N hands it adds the risk of ruin, and the smallest bankroll for each target risk P in
-// percent (1 and 5 unless given). With a win goal of G bets and a stop-loss of L bets it adds the
-// chance of reaching each first, of neither in N hands, and the hands played on average. With
+// [--goal G --stop-loss L]] [--chart [simple] | --chart-holds [simple]]: plays every deal of a game
+// the best way and prints how often each final hand comes up, the return ("return: 99.5439%") and
+// the variance of one hand's pay in bets squared ("variance: 19.5147"). GAME is JB, DW, WJ or TT;
+// the optional multipliers run from the highest code down (ten on DW, nine elsewhere), or NAME
+// names a well-known table; without them the game's own pay table is used. With a bankroll of B
+// bets and a session of N hands it adds the risk of ruin, and the smallest bankroll for each target
+// risk P in percent (1 and 5 unless given). With a win goal of G bets and a stop-loss of L bets it
+// adds the chance of reaching each first, of neither in N hands, and the hands played on average.
+// With
 // --chart it prints instead a strategy chart derived for the table, one numbered line each with its
-// share of deals and their return, then the chart's return and its cost.
+// share of deals and their return, then the chart's return and its cost; with --chart-holds every
+// deal of the deck with the hold the chart plays on it.
 
 // Standard library
 #include <charconv>
@@ -24,15 +26,13 @@
 #include "engine/game.h"
 #include "engine/hand_analysis.h"
 #include "engine/hand_names.h"
-#include "engine/odds/chart_deals.h"
-#include "engine/odds/chart_derivation.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/game_odds.h"
 #include "engine/odds/named_tables.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/odds/risk_of_ruin.h"
 #include "engine/odds/session_goal.h"
-#include "engine/odds/strategy_chart.h"
+#include "tools/odds/chart_output.h"
 
 namespace {
 
@@ -41,7 +41,8 @@ using namespace marivale;
 int usage() {
     std::fputs("usage: marivale-odds GAME [M... | --table NAME] [--bankroll B --hands N [--risk "
                "P]...\n"
-               "                                    [--goal G --stop-loss L]] [--chart [simple]]\n"
+               "                                    [--goal G --stop-loss L]]\n"
+               "                                    [--chart [simple] | --chart-holds [simple]]\n"
                "  GAME  JB, DW, WJ or TT\n"
                "  M...  the multipliers of the codes from the highest down (10 on DW, 9 "
                "elsewhere);\n"
@@ -57,7 +58,9 @@ int usage() {
         "  P     a target risk of ruin in percent (1 and 5 unless given)\n"
         "  G, L  a win goal and a stop-loss in bets\n"
         "  --chart  a strategy chart for the table, its return and its cost; simple: at most 15 "
-        "lines\n",
+        "lines\n"
+        "  --chart-holds  every deal's five card codes ascending, then 1 for each card the chart\n"
+        "                 holds and 0 for each it discards\n",
         stderr);
     return 2;
 }
@@ -130,26 +133,6 @@ int printRuin(const odds::GameOdds& result, const odds::PayScale& scale, const S
     return session.goal ? printGoals(payouts, session) : 0;
 }
 
-// Derives the table's chart and prints its lines, its return and its cost.
-int printChart(GameId game, const odds::PayScale& scale, bool simple) {
-    constexpr int kSimpleLines = 15;
-    const odds::ChartDeals deals(odds::DrawTables::forGame(game), scale);
-    std::vector<int> chart = odds::deriveChart(deals);
-    if (simple) {
-        chart = odds::simplifyChart(deals, chart, kSimpleLines);
-    }
-    const odds::ChartFigures figures = odds::evaluateChart(deals, chart);
-    int number = 0;
-    for (const odds::LineUse& use : figures.uses) {
-        std::printf("%3d %-56s %8.4f%% %9.4f\n", ++number,
-                    odds::lineName(game, deals.lines()[use.line]).c_str(), 100.0 * use.share,
-                    use.meanReturn);
-    }
-    std::printf("chart return: %.4f%%\n", 100.0 * figures.expectedReturn);
-    std::printf("cost: %.4f%%\n", 100.0 * figures.cost);
-    return 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -165,13 +148,14 @@ int main(int argc, char** argv) {
     Session session;
     const odds::NamedTable* named = nullptr;
     bool chart = false;
-    bool simple = false;
+    bool chartHolds = false;
+    odds::ChartKind kind = odds::ChartKind::Complete;
     for (int i = 2; i < argc; ++i) {
         const std::string_view arg = argv[i];
-        if (arg == "--chart") {
-            chart = true;
+        if (arg == "--chart" || arg == "--chart-holds") {
+            (arg == "--chart" ? chart : chartHolds) = true;
             if (i + 1 < argc && std::string_view(argv[i + 1]) == "simple") {
-                simple = true;
+                kind = odds::ChartKind::Simple;
                 ++i;
             }
             continue;
@@ -231,8 +215,12 @@ int main(int argc, char** argv) {
         scale = *given;
     }
 
-    if (chart) {
-        return ruin ? usage() : printChart(*game, scale, simple);
+    if (chart || chartHolds) {
+        if (ruin || (chart && chartHolds)) {
+            return usage();
+        }
+        return chart ? odds_tool::printChart(*game, scale, kind)
+                     : odds_tool::printChartHolds(*game, scale, kind);
     }
     const odds::DrawTables& tables = odds::DrawTables::forGame(*game);
     const std::optional<odds::GameOdds> result = odds::analyzeGame(tables, scale);

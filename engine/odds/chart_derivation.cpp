@@ -199,33 +199,6 @@ std::vector<int> orderLines(const ChartDeals& deals, std::span<const int> chart,
     return used;
 }
 
-// What each line of the chart is worth: the return lost, over all deals, were it left out.
-std::vector<double> lineWorths(const ChartDeals& deals, std::span<const int> chart) {
-    const std::vector<int> places = chartPlaces(deals, chart);
-    std::vector<double> worth(chart.size(), 0.0);
-    for (const ChartDeal& deal : deals.deals()) {
-        const unsigned hold = chartHold(deal, places);
-        const int place = places[deal.lines[hold]];
-        if (place == kUnlisted) {
-            continue;
-        }
-        // The hold played were the line left out.
-        unsigned next = 0;
-        int nextPlace = kUnlisted;
-        for (unsigned mask = 0; mask < kHoldCount; ++mask) {
-            const int at = places[deal.lines[mask]];
-            if (at != place && (at < nextPlace || (at == nextPlace && at != kUnlisted &&
-                                                   deal.returns[mask] > deal.returns[next]))) {
-                nextPlace = at;
-                next = mask;
-            }
-        }
-        const unsigned instead = nextPlace == kUnlisted ? 0u : next;
-        worth[place] += deal.weight * (deal.returns[hold] - deal.returns[instead]);
-    }
-    return worth;
-}
-
 } // namespace
 
 std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses) {
@@ -250,6 +223,12 @@ std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> cha
         kept.erase(kept.begin() + static_cast<long>(least));
     }
     return orderLines(deals, kept, maxPasses);
+}
+
+std::vector<int> chartOfKind(const ChartDeals& deals, int simpleLines) {
+    const std::vector<int> complete = deriveChart(deals);
+    return deals.kind() == ChartKind::Simple ? simplifyChart(deals, complete, simpleLines)
+                                             : complete;
 }
 
 } // namespace marivale::odds

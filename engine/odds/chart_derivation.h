@@ -22,4 +22,7 @@ std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses = 40);
 std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> chart, int maxLines,
                                int maxPasses = 40);
 
+// The chart of the deals' kind: complete, or simple with at most `simpleLines` lines.
+std::vector<int> chartOfKind(const ChartDeals& deals, int simpleLines);
+
 } // namespace marivale::odds

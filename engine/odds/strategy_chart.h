@@ -18,9 +18,11 @@ namespace marivale::odds {
 inline constexpr int kUnlisted = INT_MAX;
 
 struct LineUse {
-    int line{0};            // an index into ChartDeals::lines()
-    double share{0.0};      // of all deals, those where the line is the one played
-    double meanReturn{0.0}; // the return of those deals, in bets
+    int line{0};             // an index into ChartDeals::lines()
+    double share{0.0};       // of all deals, those where the line is the one played
+    double meanReturn{0.0};  // the return of those deals, in bets
+    int example{-1};         // the most common deal class the line is played on, if any
+    unsigned exampleHold{0}; // the hold played on it, a mask over its sorted cards
 };
 
 struct ChartFigures {
@@ -38,5 +40,9 @@ unsigned chartHold(const ChartDeal& deal, std::span<const int> places);
 
 // The chart played over every deal of the deck.
 ChartFigures evaluateChart(const ChartDeals& deals, std::span<const int> chart);
+
+// What each line of the chart is worth: the return lost over all deals, in bets, were it left
+// out and its deals played by the lines below.
+std::vector<double> lineWorths(const ChartDeals& deals, std::span<const int> chart);
 
 } // namespace marivale::odds

@@ -12,13 +12,12 @@
 namespace marivale::odds {
 namespace {
 
-constexpr int kSuits = 4;
 constexpr unsigned kAllRanks = (1u << kRanksPerSuit) - 1;
 
 // n! for the multiplicities of equal suit patterns (at most four equal).
-constexpr std::array<int, kSuits + 1> kFactorial{1, 1, 2, 6, 24};
+constexpr std::array<int, kSuitCount + 1> kFactorial{1, 1, 2, 6, 24};
 
-using Patterns = std::array<unsigned, kSuits>;
+using Patterns = std::array<unsigned, kSuitCount>;
 
 // The rank patterns of each size, for the enumeration below.
 const std::array<std::vector<unsigned>, kHandSize + 1>& patternsBySize() {
@@ -40,14 +39,14 @@ const std::array<std::vector<unsigned>, kHandSize + 1>& patternsBySize() {
 template <typename Visit>
 void forEachPatternSet(Patterns& patterns, int suit, unsigned bound, int cards, Visit& visit) {
     const auto& bySize = patternsBySize();
-    const int fewest = suit == kSuits - 1 ? cards : 0;
+    const int fewest = suit == kSuitCount - 1 ? cards : 0;
     for (int count = fewest; count <= cards; ++count) {
         for (const unsigned mask : bySize[count]) {
             if (mask > bound) {
                 break; // the patterns of a size ascend
             }
             patterns[suit] = mask;
-            if (suit == kSuits - 1) {
+            if (suit == kSuitCount - 1) {
                 visit(patterns);
             } else {
                 forEachPatternSet(patterns, suit + 1, mask, cards - count, visit);
@@ -59,7 +58,7 @@ void forEachPatternSet(Patterns& patterns, int suit, unsigned bound, int cards, 
 // The ascending cards of the patterns, one suit after the other, then the joker.
 int cardsOf(const Patterns& patterns, bool joker, std::array<CardCode, kHandSize>& cards) {
     int size = 0;
-    for (int suit = 0; suit < kSuits; ++suit) {
+    for (int suit = 0; suit < kSuitCount; ++suit) {
         for (unsigned rest = patterns[suit]; rest != 0; rest &= rest - 1) {
             cards[size++] = suit * kRanksPerSuit + std::countr_zero(rest);
         }
@@ -72,10 +71,10 @@ int cardsOf(const Patterns& patterns, bool joker, std::array<CardCode, kHandSize
 
 // How many different sets a renaming of the suits makes of the patterns.
 int arrangements(const Patterns& patterns) {
-    int count = kFactorial[kSuits];
+    int count = kFactorial[kSuitCount];
     int run = 1;
-    for (int suit = 1; suit <= kSuits; ++suit) {
-        if (suit < kSuits && patterns[suit] == patterns[suit - 1]) {
+    for (int suit = 1; suit <= kSuitCount; ++suit) {
+        if (suit < kSuitCount && patterns[suit] == patterns[suit - 1]) {
             ++run;
             continue;
         }

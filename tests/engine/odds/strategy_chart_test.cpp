@@ -6,12 +6,18 @@
 // Standard library
 #include <algorithm>
 #include <array>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <tuple>
 #include <vector>
 
 // Marivale
 #include "engine/odds/chart_deals.h"
 #include "engine/odds/chart_derivation.h"
+#include "engine/odds/chart_holds.h"
 #include "engine/odds/deal_classes.h"
+#include "engine/odds/derived_chart.h"
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/named_tables.h"
 #include "engine/odds/strategy_chart.h"
@@ -151,19 +157,77 @@ TEST(StrategyChart, DerivedChartsOfWellKnownTables) {
     }
 }
 
-// A simple chart of 9/6 Jacks or Better keeps at most 15 lines, "Discard everything" among
-// them, and costs more than the complete chart it comes from.
-TEST(StrategyChart, SimpleChartOfJacksNineSix) {
+// Both charts of 9/6 Jacks or Better as the player reads them: the simple one within 15 lines
+// and 0.15%, every line used, and each line's example deal found under that very line.
+TEST(StrategyChart, ChartsAsThePlayerReadsThem) {
+    SKIP_UNLESS_OPTIMISED();
+    const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
+    const auto& tables = odds::DrawTables::forGame(table.game);
+    for (const auto& [kind, mostLines, mostCost] :
+         {std::tuple{odds::ChartKind::Complete, 100, 0.00005},
+          std::tuple{odds::ChartKind::Simple, 15, 0.0015}}) {
+        const auto chart = odds::deriveStrategyChart(tables, odds::payScaleOf(table), kind);
+        ASSERT_TRUE(chart);
+        EXPECT_LE(chart->rows.size(), static_cast<std::size_t>(mostLines));
+        EXPECT_LT(chart->cost, mostCost);
+        EXPECT_NEAR(chart->bestReturn - chart->expectedReturn, chart->cost, 1e-12);
+        EXPECT_EQ(chart->rows.back().name, "Discard everything");
+        double shares = 0.0;
+        double paid = 0.0;
+        for (std::size_t at = 0; at < chart->rows.size(); ++at) {
+            const odds::ChartRow& row = chart->rows[at];
+            SCOPED_TRACE(row.name);
+            shares += row.share;
+            paid += row.share * row.meanReturn;
+            EXPECT_GT(row.share, 0.0);
+            EXPECT_EQ(chart->rowOf(row.example), static_cast<int>(at));
+            EXPECT_EQ(chart->holdLineName(row.example, row.exampleHold), row.name);
+        }
+        EXPECT_NEAR(shares, 1.0, 1e-12);
+        EXPECT_NEAR(paid, chart->expectedReturn, 1e-12);
+    }
+}
+
+// Every deal's hold under "High Pair, then Discard everything", as the odds tool writes it: the
+// deals in order, and held exactly two cards of a rank from Jacks up where the deal has them.
+TEST(StrategyChart, EveryDealsHoldWrittenOut) {
     SKIP_UNLESS_OPTIMISED();
     const odds::NamedTable& table = *odds::findNamedTable("jacks-9-6");
     const odds::ChartDeals deals(odds::DrawTables::forGame(table.game), odds::payScaleOf(table));
-    const std::vector<int> complete = odds::deriveChart(deals);
-    const std::vector<int> simple = odds::simplifyChart(deals, complete, 15);
-    EXPECT_LE(simple.size(), 15u);
-    EXPECT_NE(std::find(simple.begin(), simple.end(), *deals.lineIndex(ChartLine{})), simple.end());
-    const double cost = odds::evaluateChart(deals, simple).cost;
-    EXPECT_GT(cost, odds::evaluateChart(deals, complete).cost);
-    EXPECT_LT(cost, 0.05);
+    const odds::ChartLine highPair{.kind = odds::LineKind::Pair, .held = 2, .highPair = true};
+    const std::array<int, 2> chart{*deals.lineIndex(highPair), *deals.lineIndex(ChartLine{})};
+    std::array<int, kHandSize> last{-1};
+    std::size_t lines = 0;
+    std::size_t wrong = 0;
+    odds::writeChartHolds(deals, chart, [&](std::string_view text) {
+        std::istringstream in{std::string(text)};
+        std::array<int, kHandSize> codes{};
+        std::array<int, kHandSize> held{};
+        while (in >> codes[0] >> codes[1] >> codes[2] >> codes[3] >> codes[4] >> held[0] >>
+               held[1] >> held[2] >> held[3] >> held[4]) {
+            ++lines;
+            wrong += std::lexicographical_compare(last.begin(), last.end(), codes.begin(),
+                                                  codes.end()) &&
+                             std::is_sorted(codes.begin(), codes.end())
+                         ? 0
+                         : 1;
+            last = codes;
+            std::array<int, kRanksPerSuit> highOfRank{};
+            for (const int card : codes) {
+                highOfRank[rankIndex(card)] += isJackOrBetter(card) ? 1 : 0;
+            }
+            const bool hasPair = std::ranges::any_of(highOfRank, [](int n) { return n >= 2; });
+            int heldCount = 0;
+            bool heldPair = true;
+            for (int p = 0; p < kHandSize; ++p) {
+                heldCount += held[p];
+                heldPair = heldPair && (held[p] == 0 || highOfRank[rankIndex(codes[p])] >= 2);
+            }
+            wrong += hasPair == (heldCount == 2 && heldPair) && (hasPair || heldCount == 0) ? 0 : 1;
+        }
+    });
+    EXPECT_EQ(lines, 2598960u);
+    EXPECT_EQ(wrong, 0u);
 }
 
 // The complete chart of each board's own table, Treasure Trips with its chest, loses under 0.02%.

@@ -6,7 +6,8 @@ set -euo pipefail
 packages=(cmake g++ make pkg-config clang-format clang libclang-rt-dev libgtest-dev libbenchmark-dev
           qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-image-formats-plugins libgif-dev
           fonts-dejavu-core fonts-liberation2
-          xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream lintian)
+          xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream lintian
+          poppler-utils)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -159,9 +159,11 @@ void GameFigures::buildTableChoice(QVBoxLayout& layout) {
 }
 
 // The well-known table a scale is, if any.
+// The entry of the choice whose table has exactly these pays.
 const odds::NamedTable* GameFigures::namedTableOf(const odds::PayScale& scale) const {
+    const odds::NamedTable* found = odds::findNamedTable(game_, scale);
     for (const odds::NamedTable& table : named_) {
-        if (odds::payScaleOf(table) == scale) {
+        if (found != nullptr && table.name == found->name) {
             return &table;
         }
     }

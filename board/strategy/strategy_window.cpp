@@ -10,12 +10,14 @@
 #include <QVBoxLayout>
 
 // Marivale
+#include "board/strategy/chart_page.h"
 #include "board/strategy/game_figures.h"
 #include "board/strategy/session_page.h"
 #include "board/strategy/trainer_panel.h"
 #include "engine/dealing.h"
 #include "engine/hand_analysis.h"
 #include "engine/odds/draw_tables.h"
+#include "engine/odds/named_tables.h"
 #include "play/game_variant.h"
 #include "play/strategy/game_odds_cache.h"
 #include "ui/card_text.h"
@@ -85,6 +87,9 @@ void StrategyWindow::buildLayout() {
 
     session_ = new SessionPage(state_.BetAmount, side);
     side->addTab(session_, tr("Sessi&on"));
+
+    chart_ = new ChartPage(game_, scale_, side);
+    side->addTab(chart_, tr("Ch&art"));
 }
 
 // A window that grows once its figures arrive stays whole on its screen.
@@ -176,6 +181,7 @@ void StrategyWindow::payScaleChanged() {
     gameOdds_.reset();
     gameOddsShown_ = false;
     session_->setPayouts({});
+    chart_->setTable(scale_, tableName());
     startGameWork();
     if (dealt_) {
         handOdds_.reset();
@@ -192,6 +198,7 @@ void StrategyWindow::handDealt() {
     trainer_->clearVerdict();
     if (!odds::isValidDeal(deckSize(game_), dealt)) {
         dealt_.reset();
+        chart_->setDeal(dealt_);
         holds_->showNoDeal();
         dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
         return;
@@ -205,6 +212,7 @@ void StrategyWindow::handDealt() {
 // Works out the 32 holds at once when the tables are built; otherwise shows that they are
 // coming and waits for tablesReady().
 void StrategyWindow::analyseDeal() {
+    chart_->setDeal(dealt_);
     const odds::DrawTables* tables = odds::DrawTables::ifBuilt(game_);
     if (!tables) {
         holds_->showComputing(*dealt_);
@@ -259,7 +267,7 @@ void StrategyWindow::handPlayed(HandHolds held) {
 // The trainer judges by the board's own table, whatever table the window shows, and says so
 // when the list shows another.
 void StrategyWindow::judge(unsigned played) {
-    emit holdJudged(trainer_->judge(*boardHandOdds_, *dealt_, played, dealtBet_, edited_));
+    emit holdJudged(trainer_->judge(game_, *boardHandOdds_, *dealt_, played, dealtBet_, edited_));
 }
 
 void StrategyWindow::setTrainerMode(bool on) {
@@ -282,6 +290,17 @@ void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
 // A hand on show keeps the bet it was dealt at; the bankroll takes the new one.
 void StrategyWindow::betChanged() {
     session_->setBet(state_.BetAmount);
+}
+
+// Whose pay table is on show, for the chart.
+QString StrategyWindow::tableName() const {
+    if (!edited_) {
+        return tr("The board's pay table");
+    }
+    const odds::NamedTable* named = odds::findNamedTable(game_, scale_);
+    return named != nullptr
+               ? QString::fromUtf8(named->title.data(), static_cast<qsizetype>(named->title.size()))
+               : tr("An edited pay table");
 }
 
 void StrategyWindow::showDealtLabel() {

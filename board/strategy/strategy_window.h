@@ -2,12 +2,12 @@
 
 // The Strategy window: a companion to a board that lists the 32 ways to hold the dealt hand by
 // their exact return, the game's return, variance and hit frequencies under the best play, the
-// risk of ruin of a session, and in trainer mode tells the player after a draw what a weaker
-// hold cost. The player may try another pay table here: the window then shows every figure under
-// that table, marked as not the board's, while the board and the trainer keep the board's own
-// table. It only reads the shared state; closing it changes nothing on the board. Its odds
-// tables, whole-game figures and risk curve are worked out on background threads that stop as
-// soon as the window goes, so the board never waits for them.
+// risk of ruin of a session, the strategy chart of the table, and in trainer mode tells the player
+// after a draw what a weaker hold cost. The player may try another pay table here: the window then
+// shows every figure under that table, marked as not the board's, while the board and the trainer
+// keep the board's own table. It only reads the shared state; closing it changes nothing on the
+// board. Its odds tables, whole-game figures and risk curve are worked out on background threads
+// that stop as soon as the window goes, so the board never waits for them.
 
 // Standard library
 #include <array>
@@ -34,6 +34,7 @@ class QLabel;
 
 namespace marivale {
 
+class ChartPage;
 class GameFigures;
 class SessionPage;
 class TrainerPanel;
@@ -71,6 +72,8 @@ public:
     const std::optional<odds::HandOdds>& handOdds() const { return handOdds_; }
     // True once the risk of ruin of the table on show is on show.
     bool riskReady() const;
+    // The strategy chart of the table on show.
+    ChartPage& chartPage() const { return *chart_; }
 
     // Trainer mode as the run left it.
     void setTrainerMode(bool on);
@@ -94,6 +97,7 @@ private:
     void analyseDeal();
     void judge(unsigned played);
     void showDealtLabel();
+    QString tableName() const;
 
     GameId game_;
     const GameState& state_;
@@ -116,6 +120,7 @@ private:
     TrainerPanel* trainer_{nullptr};
     GameFigures* figures_{nullptr};
     SessionPage* session_{nullptr};
+    ChartPage* chart_{nullptr};
 
     // Last member: stopped and joined first when the window goes.
     BackgroundJob gameWork_{};

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 // Marivale
+#include "engine/odds/chart_line.h"
 #include "ui/card_text.h"
 #include "ui/money_text.h"
 #include "ui/number_text.h"
@@ -14,10 +15,16 @@
 namespace marivale {
 namespace {
 
-// The cards a hold keeps, as coloured text; "nothing" for a draw of five.
-QString heldHtml(const HandCards& dealt, unsigned held) {
-    const QString cards = cardsHtml(dealt, held);
-    return cards.isEmpty() ? QObject::tr("nothing") : cards;
+// A hold by its chart line, with the cards it keeps as coloured text and its return.
+QString holdHtml(GameId game, const HandCards& dealt, unsigned held, double bets) {
+    const QString line =
+        QString::fromStdString(
+            odds::lineName(game, odds::chartLineOf(odds::ChartKind::Complete, game, dealt, held)))
+            .toHtmlEscaped();
+    if (held == 0) {
+        return QObject::tr("%1 (%2 bets)").arg(line, decimalText(bets, 4));
+    }
+    return QObject::tr("%1 (%2, %3 bets)").arg(line, cardsHtml(dealt, held), decimalText(bets, 4));
 }
 
 } // namespace
@@ -69,18 +76,16 @@ void TrainerPanel::showChecking() {
     verdict_->setText(tr("Checking your hold\u2026"));
 }
 
-HoldJudgement TrainerPanel::judge(const odds::HandOdds& odds, const HandCards& dealt,
+HoldJudgement TrainerPanel::judge(GameId game, const odds::HandOdds& odds, const HandCards& dealt,
                                   unsigned played, float bet, bool listEdited) {
     const HoldJudgement verdict = judgeHold(odds, played, bet);
     // An edited table's list may rank the holds otherwise: the verdict names its own table.
     const QString table = listEdited ? tr("By the board's pay table: ") : QString();
     if (verdict.mistake) {
-        verdict_->setText(
-            table + tr("<b>Mistake:</b> you held %1 (%2 bets); the best hold was %3 (%4 bets). "
-                       "It cost %5.")
-                        .arg(heldHtml(dealt, played), decimalText(verdict.playedReturn, 4),
-                             heldHtml(dealt, verdict.best), decimalText(verdict.bestReturn, 4),
-                             moneyText(verdict.cost)));
+        verdict_->setText(table + tr("<b>Mistake:</b> you held %1; the chart says %2. It cost %3.")
+                                      .arg(holdHtml(game, dealt, played, verdict.playedReturn),
+                                           holdHtml(game, dealt, verdict.best, verdict.bestReturn),
+                                           moneyText(verdict.cost)));
     } else {
         verdict_->setText(
             table + tr("Best hold played (%1 bets).").arg(decimalText(verdict.playedReturn, 4)));

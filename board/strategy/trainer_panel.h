@@ -27,9 +27,10 @@ public:
     // The hold came before its odds: the verdict follows once they are worked out.
     void showChecking();
     // Judges the hold `played` (mask over board positions) of the dealt cards at a bet and
-    // shows the verdict, naming the board's table when the list shows an edited one.
-    HoldJudgement judge(const odds::HandOdds& odds, const HandCards& dealt, unsigned played,
-                        float bet, bool listEdited);
+    // shows the verdict with the chart lines of both holds, naming the board's table when the
+    // list shows an edited one.
+    HoldJudgement judge(GameId game, const odds::HandOdds& odds, const HandCards& dealt,
+                        unsigned played, float bet, bool listEdited);
     void showTally(const TrainerSummary& summary);
 
 signals:

@@ -55,4 +55,13 @@ PayScale payScaleOf(const NamedTable& table) {
     return *payScaleFromMultipliers(table.game, table.payouts);
 }
 
+const NamedTable* findNamedTable(GameId game, const PayScale& scale) {
+    for (const NamedTable& table : namedTables()) {
+        if (table.game == game && payScaleOf(table) == scale) {
+            return &table;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace marivale::odds

@@ -28,6 +28,9 @@ std::vector<NamedTable> namedTablesOf(GameId game);
 // The table of a name; nothing for a name not known.
 const NamedTable* findNamedTable(std::string_view name);
 
+// The well-known table of the game with exactly these pays; nothing when none has them.
+const NamedTable* findNamedTable(GameId game, const PayScale& scale);
+
 // The pay scale of a well-known table.
 PayScale payScaleOf(const NamedTable& table);
 

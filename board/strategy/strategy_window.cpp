@@ -13,9 +13,11 @@
 #include "board/strategy/chart_page.h"
 #include "board/strategy/game_figures.h"
 #include "board/strategy/session_page.h"
+#include "board/strategy/study_panel.h"
 #include "board/strategy/trainer_panel.h"
 #include "engine/dealing.h"
 #include "engine/hand_analysis.h"
+#include "engine/odds/chart_line.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/named_tables.h"
 #include "play/game_variant.h"
@@ -38,6 +40,7 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
+    connect(study_, &StudyPanel::studied, this, &StrategyWindow::studyHand);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
@@ -56,6 +59,8 @@ void StrategyWindow::buildLayout() {
     columns->setSizeConstraint(QLayout::SetMinimumSize);
     auto* layout = new QVBoxLayout;
     columns->addLayout(layout);
+    study_ = new StudyPanel(game_, this);
+    layout->addWidget(study_);
     dealtLabel_ = new QLabel(this);
     dealtLabel_->setObjectName(QStringLiteral("Dealt"));
     dealtLabel_->setTextFormat(Qt::RichText);
@@ -192,6 +197,7 @@ void StrategyWindow::payScaleChanged() {
 void StrategyWindow::handDealt() {
     const HandCards dealt = boardCards(state_);
     replayed_.reset();
+    studied_ = false;
     handOdds_.reset();
     boardHandOdds_.reset();
     pendingPlay_.reset();
@@ -221,6 +227,9 @@ void StrategyWindow::analyseDeal() {
     handOdds_ = odds::analyzeHolds(*tables, *dealt_, scale_);
     boardHandOdds_ = edited_ ? odds::analyzeHolds(*tables, *dealt_, boardScale_) : *handOdds_;
     holds_->showOdds(*dealt_, *handOdds_, dealtBet_, replayed_);
+    if (studied_) {
+        showStudyFinding();
+    }
     if (pendingPlay_) {
         judge(*pendingPlay_);
         pendingPlay_.reset();
@@ -236,6 +245,7 @@ void StrategyWindow::replayHand(int number, const HandCards& dealt, float bet, u
     dealt_ = dealt;
     dealtBet_ = bet;
     replayed_ = held;
+    studied_ = false;
     replayNumber_ = number;
     handOdds_.reset();
     boardHandOdds_.reset();
@@ -247,8 +257,32 @@ void StrategyWindow::replayHand(int number, const HandCards& dealt, float bet, u
     }
 }
 
+void StrategyWindow::studyHand(const HandCards& cards) {
+    pendingPlay_.reset();
+    trainer_->clearVerdict();
+    dealt_ = cards;
+    dealtBet_ = state_.BetAmount;
+    replayed_.reset();
+    studied_ = true;
+    handOdds_.reset();
+    boardHandOdds_.reset();
+    showDealtLabel();
+    analyseDeal();
+}
+
+// The best play of the hand studied, by its chart line.
+void StrategyWindow::showStudyFinding() {
+    const unsigned best = judgeHold(*handOdds_, 0, dealtBet_).best;
+    const QString line = QString::fromStdString(
+        odds::lineName(game_, odds::chartLineOf(odds::ChartKind::Complete, game_, *dealt_, best)));
+    const QString cards = best == 0 ? tr("draw five") : cardsHtml(*dealt_, best);
+    study_->showFinding(tr("Best play: %1 (%2), %3 bets.")
+                            .arg(line.toHtmlEscaped(), cards,
+                                 decimalText(handOdds_->holds[best].expectedReturn, 4)));
+}
+
 void StrategyWindow::handPlayed(HandHolds held) {
-    if (replayed_) {
+    if (replayed_ || studied_) {
         // A hand of the history was on show: the hand in play comes back to be judged.
         handDealt();
     }
@@ -306,6 +340,11 @@ QString StrategyWindow::tableName() const {
 void StrategyWindow::showDealtLabel() {
     const QString dealt =
         tr("Dealt %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(dealtBet_));
+    if (studied_) {
+        dealtLabel_->setText(
+            tr("Studying %1 &nbsp;&nbsp; bet %2").arg(cardsHtml(*dealt_), moneyText(dealtBet_)));
+        return;
+    }
     dealtLabel_->setText(replayed_ ? tr("Hand %1 again: %2").arg(countText(replayNumber_), dealt)
                                    : dealt);
 }

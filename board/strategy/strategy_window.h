@@ -37,6 +37,7 @@ namespace marivale {
 class ChartPage;
 class GameFigures;
 class SessionPage;
+class StudyPanel;
 class TrainerPanel;
 
 class StrategyWindow : public QWidget {
@@ -52,6 +53,8 @@ public:
     // Shows a hand of the history again, at its bet and under the board's table, with the hold
     // the player made marked; the trainer does not judge it again.
     void replayHand(int number, const HandCards& dealt, float bet, unsigned held);
+    // Shows a hand the player set up to study, at the board's bet; the trainer does not judge it.
+    void studyHand(const HandCards& cards);
     // The board's bet changed; a hand on show keeps the bet it was dealt at.
     void betChanged();
     // The trainer's tally of the visit, as the statistics count it.
@@ -97,6 +100,7 @@ private:
     void analyseDeal();
     void judge(unsigned played);
     void showDealtLabel();
+    void showStudyFinding();
     QString tableName() const;
 
     GameId game_;
@@ -110,11 +114,13 @@ private:
     float dealtBet_{0.0f};               // the bet of the hand on show
     std::optional<unsigned> replayed_{}; // the hold of a hand of the history on show
     int replayNumber_{0};
+    bool studied_{false}; // the hand on show is one the player set up
     std::optional<odds::HandOdds> handOdds_{};
     std::optional<odds::HandOdds> boardHandOdds_{}; // what the trainer judges by
     std::optional<unsigned> pendingPlay_{};         // a play made before the tables were ready
     bool gameOddsShown_{false};
 
+    StudyPanel* study_{nullptr};
     QLabel* dealtLabel_{nullptr};
     HoldTable* holds_{nullptr};
     TrainerPanel* trainer_{nullptr};

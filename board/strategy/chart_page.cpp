@@ -190,7 +190,15 @@ void ChartPage::markDealt() {
                                              : QString());
         return;
     }
-    lines_->scrollToItem(lines_->item(*dealtRow_, 0));
+    // Once the rows are laid out, so that a chart that has just arrived scrolls too.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (dealtRow_ && *dealtRow_ < lines_->rowCount()) {
+                lines_->scrollToItem(lines_->item(*dealtRow_, 0));
+            }
+        },
+        Qt::QueuedConnection);
     dealtNote_->setText(
         tr("The hand on show plays line %1: %2.")
             .arg(countText(*dealtRow_ + 1),

@@ -15,7 +15,7 @@ source "$(dirname "$0")/session.sh"
 OUT="$(realpath -m "${1:-$DESKTOP_REPO/docs}")"
 shift || true
 SHOTS=(main-menu board-tt-dealt board-dw-dealt board-wj-dealt board-jb-dealt board-tt-paid
-    board-dw-paid help strategy statistics treasure-hunt double-up)
+    board-dw-paid help strategy strategy-chart statistics treasure-hunt double-up)
 [ $# -eq 0 ] || SHOTS=("$@")
 
 MENU="Marivale Poker"
@@ -126,6 +126,22 @@ shot_strategy() {
     send_keys "Jacks or Better" F2
     window_id "Strategy" 10 >/dev/null
     sleep 2 # the odds of the dealt hand are worked out in the background
+    echo "Strategy"
+}
+
+# The Chart page, studying a hand typed into the field above the holds.
+shot_strategy-chart() {
+    open_board alt+k "Jacks or Better"
+    send_keys "Jacks or Better" alt+d
+    sleep 0.3
+    send_keys "Jacks or Better" F2
+    window_id "Strategy" 10 >/dev/null
+    sleep 1
+    click_at "Strategy" 150 20
+    xdotool type --delay 40 "7h 8h 9h Jh 2c"
+    xdotool key Return
+    send_keys "Strategy" alt+a
+    sleep 4 # the chart is worked out in the background
     echo "Strategy"
 }
 

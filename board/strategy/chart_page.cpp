@@ -18,6 +18,7 @@
 // Marivale
 #include "board/strategy/chart_print.h"
 #include "engine/odds/draw_tables.h"
+#include "engine/odds/named_tables.h"
 #include "ui/number_text.h"
 
 namespace marivale {
@@ -85,9 +86,13 @@ ChartPage::ChartPage(GameId game, const odds::PayScale& scale, QWidget* parent)
     pdf_->setEnabled(false);
 }
 
-void ChartPage::setTable(const odds::PayScale& scale, const QString& tableName) {
+void ChartPage::setTable(const odds::PayScale& scale, bool edited) {
     scale_ = scale;
-    tableName_ = tableName;
+    const odds::NamedTable* named = edited ? odds::findNamedTable(game_, scale) : nullptr;
+    tableName_ = named != nullptr ? QString::fromUtf8(named->title.data(),
+                                                      static_cast<qsizetype>(named->title.size()))
+                 : edited         ? tr("An edited pay table")
+                                  : tr("The board's pay table");
     stale_ = true;
     if (isVisible()) {
         startWork();

@@ -35,8 +35,8 @@ public:
 
     ChartPage(GameId game, const odds::PayScale& scale, QWidget* parent = nullptr);
 
-    // The table on show changed; `tableName` says whose it is.
-    void setTable(const odds::PayScale& scale, const QString& tableName);
+    // The table on show changed; `edited` when it is not the board's.
+    void setTable(const odds::PayScale& scale, bool edited);
     // The hand on show, or none.
     void setDeal(const std::optional<HandCards>& dealt);
 

@@ -186,7 +186,7 @@ void StrategyWindow::payScaleChanged() {
     gameOdds_.reset();
     gameOddsShown_ = false;
     session_->setPayouts({});
-    chart_->setTable(scale_, tableName());
+    chart_->setTable(scale_, edited_);
     startGameWork();
     if (dealt_) {
         handOdds_.reset();
@@ -228,7 +228,7 @@ void StrategyWindow::analyseDeal() {
     boardHandOdds_ = edited_ ? odds::analyzeHolds(*tables, *dealt_, boardScale_) : *handOdds_;
     holds_->showOdds(*dealt_, *handOdds_, dealtBet_, replayed_);
     if (studied_) {
-        showStudyFinding();
+        study_->showBestPlay(*dealt_, *handOdds_);
     }
     if (pendingPlay_) {
         judge(*pendingPlay_);
@@ -240,16 +240,8 @@ void StrategyWindow::replayHand(int number, const HandCards& dealt, float bet, u
     if (!odds::isValidDeal(deckSize(game_), dealt)) {
         return;
     }
-    pendingPlay_.reset();
-    trainer_->clearVerdict();
-    dealt_ = dealt;
-    dealtBet_ = bet;
-    replayed_ = held;
-    studied_ = false;
     replayNumber_ = number;
-    handOdds_.reset();
-    boardHandOdds_.reset();
-    showDealtLabel();
+    showOtherHand(dealt, bet, held, false);
     if (edited_) {
         useBoardTable();
     } else {
@@ -258,27 +250,22 @@ void StrategyWindow::replayHand(int number, const HandCards& dealt, float bet, u
 }
 
 void StrategyWindow::studyHand(const HandCards& cards) {
-    pendingPlay_.reset();
-    trainer_->clearVerdict();
-    dealt_ = cards;
-    dealtBet_ = state_.BetAmount;
-    replayed_.reset();
-    studied_ = true;
-    handOdds_.reset();
-    boardHandOdds_.reset();
-    showDealtLabel();
+    showOtherHand(cards, state_.BetAmount, std::nullopt, true);
     analyseDeal();
 }
 
-// The best play of the hand studied, by its chart line.
-void StrategyWindow::showStudyFinding() {
-    const unsigned best = judgeHold(*handOdds_, 0, dealtBet_).best;
-    const QString line = QString::fromStdString(
-        odds::lineName(game_, odds::chartLineOf(odds::ChartKind::Complete, game_, *dealt_, best)));
-    const QString cards = best == 0 ? tr("draw five") : cardsHtml(*dealt_, best);
-    study_->showFinding(tr("Best play: %1 (%2), %3 bets.")
-                            .arg(line.toHtmlEscaped(), cards,
-                                 decimalText(handOdds_->holds[best].expectedReturn, 4)));
+// Puts a hand that is not the board's on show: one of the history or one the player set up.
+void StrategyWindow::showOtherHand(const HandCards& dealt, float bet,
+                                   std::optional<unsigned> replayed, bool studied) {
+    pendingPlay_.reset();
+    trainer_->clearVerdict();
+    dealt_ = dealt;
+    dealtBet_ = bet;
+    replayed_ = replayed;
+    studied_ = studied;
+    handOdds_.reset();
+    boardHandOdds_.reset();
+    showDealtLabel();
 }
 
 void StrategyWindow::handPlayed(HandHolds held) {
@@ -324,17 +311,6 @@ void StrategyWindow::showTrainerTally(const TrainerSummary& summary) {
 // A hand on show keeps the bet it was dealt at; the bankroll takes the new one.
 void StrategyWindow::betChanged() {
     session_->setBet(state_.BetAmount);
-}
-
-// Whose pay table is on show, for the chart.
-QString StrategyWindow::tableName() const {
-    if (!edited_) {
-        return tr("The board's pay table");
-    }
-    const odds::NamedTable* named = odds::findNamedTable(game_, scale_);
-    return named != nullptr
-               ? QString::fromUtf8(named->title.data(), static_cast<qsizetype>(named->title.size()))
-               : tr("An edited pay table");
 }
 
 void StrategyWindow::showDealtLabel() {

@@ -100,8 +100,8 @@ private:
     void analyseDeal();
     void judge(unsigned played);
     void showDealtLabel();
-    void showStudyFinding();
-    QString tableName() const;
+    void showOtherHand(const HandCards& dealt, float bet, std::optional<unsigned> replayed,
+                       bool studied);
 
     GameId game_;
     const GameState& state_;

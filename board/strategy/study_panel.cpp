@@ -13,9 +13,12 @@
 // Marivale
 #include "board/strategy/card_grid.h"
 #include "engine/card_text.h"
+#include "engine/odds/chart_line.h"
 #include "play/game_variant.h"
+#include "play/strategy/hold_judgement.h"
 #include "play/strategy/study_hand.h"
 #include "ui/card_text.h"
+#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
@@ -81,8 +84,14 @@ void StudyPanel::study() {
     emit studied(std::get<HandCards>(read));
 }
 
-void StudyPanel::showFinding(const QString& html) {
-    note_->setText(html);
+void StudyPanel::showBestPlay(const HandCards& cards, const odds::HandOdds& odds) {
+    const unsigned best = judgeHold(odds, 0, 1.0f).best;
+    const QString line = QString::fromStdString(
+        odds::lineName(game_, odds::chartLineOf(odds::ChartKind::Complete, game_, cards, best)));
+    note_->setText(tr("Best play: %1 (%2), %3 bets.")
+                       .arg(line.toHtmlEscaped(),
+                            best == 0 ? tr("draw five") : cardsHtml(cards, best),
+                            decimalText(odds.holds[best].expectedReturn, 4)));
 }
 
 void StudyPanel::pick() {

@@ -10,6 +10,7 @@
 // Marivale
 #include "engine/card.h"
 #include "engine/game.h"
+#include "engine/odds/hold_odds.h"
 
 class QLabel;
 class QLineEdit;
@@ -23,8 +24,8 @@ public:
 
     // Reads the cards typed and studies them, or says what is wrong.
     void study();
-    // What the window found of the hand studied.
-    void showFinding(const QString& html);
+    // The best play of the hand studied, by its chart line.
+    void showBestPlay(const HandCards& cards, const odds::HandOdds& odds);
 
 signals:
     void studied(const HandCards& cards);

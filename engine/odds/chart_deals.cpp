@@ -50,7 +50,8 @@ const DealLines& dealLines(GameId game, ChartKind kind) {
         {}, [game, kind](std::stop_token) { return buildLines(game, kind, defaultThreadCount()); });
 }
 
-ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, ChartKind kind, int threads)
+ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, ChartKind kind, int threads,
+                       std::stop_token stop)
     : game_(tables.game()), kind_(kind) {
     const std::vector<DealClass>& classes = dealClasses(tables.deckSize());
     const std::span<const std::uint8_t> dealSlots = tables.dealOutcomes();
@@ -59,6 +60,9 @@ ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, ChartKin
     deals_.resize(classes.size());
     const int chunks = static_cast<int>((classes.size() + kChunk - 1) / kChunk);
     parallelFor(chunks, std::max(threads, 1), [&](int, int chunk) {
+        if (stop.stop_requested()) {
+            return;
+        }
         const std::size_t first = static_cast<std::size_t>(chunk) * kChunk;
         const std::size_t last = std::min(classes.size(), first + kChunk);
         for (std::size_t i = first; i < last; ++i) {
@@ -72,6 +76,7 @@ ChartDeals::ChartDeals(const DrawTables& tables, const PayScale& scale, ChartKin
                 std::max_element(deal.returns.begin(), deal.returns.end()) - deal.returns.begin());
         }
     });
+    stopped_ = stop.stop_requested();
     for (const ChartDeal& deal : deals_) {
         dealCount_ += deal.weight;
         bestReturn_ += deal.weight * deal.returns[deal.best];

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <stop_token>
 #include <unordered_map>
 #include <vector>
 
@@ -40,11 +41,14 @@ const DealLines& dealLines(GameId game, ChartKind kind);
 
 class ChartDeals {
 public:
+    // Gives up early, leaving stopped() true, once `stop` is requested.
     ChartDeals(const DrawTables& tables, const PayScale& scale,
-               ChartKind kind = ChartKind::Complete, int threads = defaultThreadCount());
+               ChartKind kind = ChartKind::Complete, int threads = defaultThreadCount(),
+               std::stop_token stop = {});
 
     GameId game() const { return game_; }
     ChartKind kind() const { return kind_; }
+    bool stopped() const { return stopped_; }
     // Every line some hold of some deal is, in the order first met.
     const std::vector<ChartLine>& lines() const { return lines_->lines; }
     std::span<const ChartDeal> deals() const { return deals_; }
@@ -62,6 +66,7 @@ private:
     std::vector<ChartDeal> deals_{};
     double dealCount_{0.0};
     double bestReturn_{0.0};
+    bool stopped_{false};
 };
 
 } // namespace marivale::odds

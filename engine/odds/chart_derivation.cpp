@@ -183,9 +183,10 @@ private:
 
 // Orders the lines of `chart` (every best hold's line when empty) until no move gains, and
 // leaves out the lines no deal plays.
-std::vector<int> orderLines(const ChartDeals& deals, std::span<const int> chart, int maxPasses) {
+std::vector<int> orderLines(const ChartDeals& deals, std::span<const int> chart, int maxPasses,
+                            std::stop_token stop) {
     Derivation derivation(deals, chart);
-    for (int pass = 0; pass < maxPasses && derivation.improve(); ++pass) {
+    for (int pass = 0; pass < maxPasses && !stop.stop_requested() && derivation.improve(); ++pass) {
     }
     std::vector<int> ordered = derivation.chart();
     // A line no deal plays changes nothing where it stands.
@@ -201,15 +202,15 @@ std::vector<int> orderLines(const ChartDeals& deals, std::span<const int> chart,
 
 } // namespace
 
-std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses) {
-    return orderLines(deals, {}, maxPasses);
+std::vector<int> deriveChart(const ChartDeals& deals, int maxPasses, std::stop_token stop) {
+    return orderLines(deals, {}, maxPasses, stop);
 }
 
 std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> chart, int maxLines,
-                               int maxPasses) {
+                               int maxPasses, std::stop_token stop) {
     std::vector<int> kept(chart.begin(), chart.end());
     const int discard = *deals.lineIndex(ChartLine{});
-    while (static_cast<int>(kept.size()) > std::max(maxLines, 1)) {
+    while (static_cast<int>(kept.size()) > std::max(maxLines, 1) && !stop.stop_requested()) {
         const std::vector<double> worth = lineWorths(deals, kept);
         std::size_t least = kept.size();
         for (std::size_t at = 0; at < kept.size(); ++at) {
@@ -222,13 +223,14 @@ std::vector<int> simplifyChart(const ChartDeals& deals, std::span<const int> cha
         }
         kept.erase(kept.begin() + static_cast<long>(least));
     }
-    return orderLines(deals, kept, maxPasses);
+    return orderLines(deals, kept, maxPasses, stop);
 }
 
-std::vector<int> chartOfKind(const ChartDeals& deals, int simpleLines) {
-    const std::vector<int> complete = deriveChart(deals);
-    return deals.kind() == ChartKind::Simple ? simplifyChart(deals, complete, simpleLines)
-                                             : complete;
+std::vector<int> chartOfKind(const ChartDeals& deals, int simpleLines, std::stop_token stop) {
+    const std::vector<int> complete = deriveChart(deals, kChartPasses, stop);
+    return deals.kind() == ChartKind::Simple
+               ? simplifyChart(deals, complete, simpleLines, kChartPasses, stop)
+               : complete;
 }
 
 } // namespace marivale::odds

@@ -26,11 +26,11 @@ std::string DerivedChart::holdLineName(std::span<const CardCode, kHandSize> deal
 
 std::optional<DerivedChart> deriveStrategyChart(const DrawTables& tables, const PayScale& scale,
                                                 ChartKind kind, std::stop_token stop) {
-    const ChartDeals deals(tables, scale, kind);
-    if (stop.stop_requested()) {
+    const ChartDeals deals(tables, scale, kind, defaultThreadCount(), stop);
+    if (deals.stopped()) {
         return std::nullopt;
     }
-    const std::vector<int> lines = chartOfKind(deals, kSimpleChartLines);
+    const std::vector<int> lines = chartOfKind(deals, kSimpleChartLines, stop);
     if (stop.stop_requested()) {
         return std::nullopt;
     }

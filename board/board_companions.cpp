@@ -62,7 +62,23 @@ void BoardCompanions::makeStrategy() {
                              stats_.setLatestJudgement(judgement);
                              strategy_->showTrainerTally(stats_.trainer(true));
                          });
+        QObject::connect(strategy_, &StrategyWindow::warningChanged, &board_,
+                         [this](const WarningOption& option) {
+                             if (warningListener_) {
+                                 warningListener_(option);
+                             }
+                         });
     }
+}
+
+void BoardCompanions::warn(const MistakeWarning& warning) {
+    makeStrategy();
+    strategy_->showWarning(warning);
+    if (!strategy_->isVisible()) {
+        placeBeside(*strategy_, board_, Side::Right);
+        strategy_->show();
+    }
+    strategy_->raise();
 }
 
 void BoardCompanions::replay(const HandRecord& hand) {

@@ -38,6 +38,7 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
+    connect(trainer_, &TrainerPanel::warningChanged, this, &StrategyWindow::warningChanged);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
     figures_->showScale(scale_, edited_);
@@ -272,6 +273,10 @@ void StrategyWindow::judge(unsigned played) {
 
 void StrategyWindow::setTrainerMode(bool on) {
     trainer_->setOn(on);
+}
+
+void StrategyWindow::showWarning(const MistakeWarning& warning) {
+    trainer_->showWarning(game_, warning);
 }
 
 // F2 closes the window as it opened it; so does Escape, as in the statistics.

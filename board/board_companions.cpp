@@ -76,9 +76,13 @@ void BoardCompanions::warn(const MistakeWarning& warning) {
     strategy_->showWarning(warning);
     if (!strategy_->isVisible()) {
         placeBeside(*strategy_, board_, Side::Right);
+        strategy_->setAttribute(Qt::WA_ShowWithoutActivating);
         strategy_->show();
+        strategy_->setAttribute(Qt::WA_ShowWithoutActivating, false);
     }
+    // The board keeps the keys, so Enter plays the hold as the warning says.
     strategy_->raise();
+    board_.activateWindow();
 }
 
 void BoardCompanions::replay(const HandRecord& hand) {

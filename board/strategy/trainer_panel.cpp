@@ -117,12 +117,10 @@ void TrainerPanel::setWarningOption(const WarningOption& option) {
     const QSignalBlocker blockThreshold(threshold_);
     warn_->setChecked(option.on);
     threshold_->setValue(option.threshold);
-    threshold_->setEnabled(option.on);
 }
 
 void TrainerPanel::warningEdited() {
     const WarningOption option{warn_->isChecked(), threshold_->value()};
-    threshold_->setEnabled(option.on);
     saveWarningOption(option);
     emit warningChanged(option);
 }

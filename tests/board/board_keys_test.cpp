@@ -19,6 +19,7 @@
 // Marivale
 #include "board/board_companions.h"
 #include "board/board_keys.h"
+#include "board/stats/stats_tables.h"
 #include "board/strategy/hold_table.h"
 #include "engine/odds/draw_tables.h"
 #include "play/board_captions.h"
@@ -337,6 +338,11 @@ void BoardKeysTest::warningAndHintByKeys() {
     QCOMPARE(run.hinted(true), 1);
     QCOMPARE(run.visit().hands, 1);
     QCOMPARE(run.visit().bet, 1.0f);
+    QTest::keyClick(board, Qt::Key_F3);
+    auto* summary = f.find<QTableWidget>(QStringLiteral("Summary"));
+    const int hinted = static_cast<int>(SummaryRow::Hinted);
+    QCOMPARE(summary->verticalHeaderItem(hinted)->text(), QStringLiteral("Hinted hands"));
+    QCOMPARE(summary->item(hinted, kVisitColumn)->text(), QStringLiteral("1"));
     warn->setChecked(false);
 }
 

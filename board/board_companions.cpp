@@ -62,7 +62,27 @@ void BoardCompanions::makeStrategy() {
                              stats_.setLatestJudgement(judgement);
                              strategy_->showTrainerTally(stats_.trainer(true));
                          });
+        QObject::connect(strategy_, &StrategyWindow::warningChanged, &board_,
+                         [this](const WarningOption& option) {
+                             if (warningListener_) {
+                                 warningListener_(option);
+                             }
+                         });
     }
+}
+
+void BoardCompanions::warn(const MistakeWarning& warning) {
+    makeStrategy();
+    strategy_->showWarning(warning);
+    if (!strategy_->isVisible()) {
+        placeBeside(*strategy_, board_, Side::Right);
+        strategy_->setAttribute(Qt::WA_ShowWithoutActivating);
+        strategy_->show();
+        strategy_->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    }
+    // The board keeps the keys, so Enter plays the hold as the warning says.
+    strategy_->raise();
+    board_.activateWindow();
 }
 
 void BoardCompanions::replay(const HandRecord& hand) {

@@ -5,9 +5,11 @@
 
 // Standard library
 #include <array>
+#include <functional>
 
 // Marivale
 #include "engine/game.h"
+#include "play/strategy/mistake_guard.h"
 #include "state/game_state.h"
 
 class QWidget;
@@ -40,6 +42,13 @@ public:
     // Shows a hand of the history in the Strategy window of its game, opened if need be.
     void replay(const HandRecord& hand);
 
+    // Shows why the draw waits in the Strategy window, opened beside the board if need be.
+    void warn(const MistakeWarning& warning);
+    // Hears the Strategy window's changes to the warning before a costly hold.
+    void setWarningListener(std::function<void(const WarningOption&)> listener) {
+        warningListener_ = std::move(listener);
+    }
+
     void handDealt();
     void handPlayed(const HandHolds& held);
     void betChanged();
@@ -60,6 +69,7 @@ private:
     // Strategy windows for hands of the history of other games, which no hand in play reaches.
     std::array<StrategyWindow*, kGameCount> replays_{};
     GameState replayState_{};
+    std::function<void(const WarningOption&)> warningListener_{};
 };
 
 } // namespace marivale

@@ -18,8 +18,12 @@
 #include "board/board_companions.h"
 #include "board/board_design.h"
 #include "board/board_keys.h"
+#include "board/hint_marks.h"
+#include "board/strategy/trainer_panel.h"
+#include "engine/dealing.h"
 #include "play/play_controller.h"
 #include "play/stats/session_stats.h"
+#include "play/strategy/mistake_guard.h"
 #include "ui/bell.h"
 #include "ui/card_pictures.h"
 #include "ui/key_repeat_guard.h"
@@ -43,6 +47,10 @@ public:
         connectClicks();
         prepareBoardKeys(window_, widgets_);
         controller_.setObserver(&stats_);
+        guard_.setOption(savedWarningOption());
+        companions_.setWarningListener(
+            [this](const WarningOption& option) { guard_.setOption(option); });
+        controller_.setHoldCheck([this](unsigned held) { return holdMayPlay(held); });
         controller_.load();
     }
 
@@ -57,8 +65,8 @@ public:
     void runDoubleUp() override;
     TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
-    void handDealt() override { companions_.handDealt(); }
-    void handPlayed(const HandHolds& held) override { companions_.handPlayed(held); }
+    void handDealt() override;
+    void handPlayed(const HandHolds& held) override;
     void betChanged() override { companions_.betChanged(); }
 
     // Runs the board's unload once, however the window goes away.
@@ -68,8 +76,11 @@ public:
     // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
     bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event, keys_); }
     void keyReleased(const QKeyEvent& event) { keys_.released(event); }
+    // F5: frames the cards of the best hold of the hand in play.
+    void showHint();
 
 private:
+    bool holdMayPlay(unsigned held);
     void mapControls();
     void connectClicks();
     void checkPictures();
@@ -91,6 +102,8 @@ private:
     bool unloaded_{false};
     bool toldMissing_{false};
     KeyRepeatGuard keys_{};
+    MistakeGuard guard_{};
+    HintMarks hints_{widgets_.cards};
 };
 
 void GameBoard::Impl::mapControls() {
@@ -238,6 +251,41 @@ void GameBoard::Impl::play(GameState& state) {
     }
 }
 
+void GameBoard::Impl::handDealt() {
+    guard_.dealt();
+    hints_.clear();
+    companions_.handDealt();
+}
+
+void GameBoard::Impl::handPlayed(const HandHolds& held) {
+    hints_.clear();
+    companions_.handPlayed(held);
+}
+
+// A costly hold waits once, with its warning in the Strategy window; the board stays as it is.
+bool GameBoard::Impl::holdMayPlay(unsigned held) {
+    const auto warning = guard_.check(variant_.game, boardCards(state_), held, state_.BetAmount);
+    if (!warning) {
+        return true;
+    }
+    stats_.markWarned();
+    companions_.warn(*warning);
+    return false;
+}
+
+// The hint builds the game's draw tables the first time, a fraction of a second once.
+void GameBoard::Impl::showHint() {
+    if (phaseOf(state_) != Phase::Dealt) {
+        return;
+    }
+    const auto best = judgeHold(variant_.game, boardCards(state_), 0, state_.BetAmount);
+    if (!best) {
+        return;
+    }
+    hints_.show(best->best);
+    stats_.markHinted();
+}
+
 void GameBoard::Impl::unloadOnce() {
     if (unloaded_) {
         return;
@@ -256,8 +304,8 @@ GameBoard::~GameBoard() {
     impl_->unloadOnce();
 }
 
-// F2 opens or closes the Strategy window, F3 the statistics; 1 to 5 and Enter play; Escape
-// never ends a visit by accident.
+// F2 opens or closes the Strategy window, F3 the statistics, F5 shows the best hold; 1 to 5
+// and Enter play; Escape never ends a visit by accident.
 void GameBoard::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F2) {
         impl_->toggleStrategy();
@@ -265,6 +313,10 @@ void GameBoard::keyPressEvent(QKeyEvent* event) {
     }
     if (event->key() == Qt::Key_F3) {
         impl_->toggleStatistics();
+        return;
+    }
+    if (event->key() == Qt::Key_F5) {
+        impl_->showHint();
         return;
     }
     if (impl_->playKey(*event)) {

@@ -194,6 +194,9 @@ void PlayController::draw() {
     for (int p = 0; p < kHandSize; ++p) {
         held[p] = isSet(state_.Held[p]);
     }
+    if (holdCheck_ && !holdCheck_(holdMask(held))) {
+        return;
+    }
     observer_->held(held);
     view_.handPlayed(held);
     DealCards(state_, variant_.game, random_);
@@ -207,6 +210,9 @@ void PlayController::draw() {
 
 void PlayController::stand() {
     constexpr HandHolds standing{true, true, true, true, true};
+    if (holdCheck_ && !holdCheck_(holdMask(standing))) {
+        return;
+    }
     observer_->held(standing);
     view_.handPlayed(standing);
     const HandCards finalCards = cards();

@@ -5,6 +5,10 @@
 // bet, cash-out, and the board's load and unload. What happens is also told to an optional
 // observer.
 
+// Standard library
+#include <functional>
+
+// Marivale
 #include "engine/hand_analysis.h"
 #include "engine/random_source.h"
 #include "play/board_view.h"
@@ -38,6 +42,10 @@ public:
     const GameVariant& variant() const { return variant_; }
     // The one observer of the visit's events; nullptr tells nobody.
     void setObserver(HandObserver* observer) { observer_ = observer ? observer : &nobody_; }
+    // Asked before a draw or a stand with the holds (a mask, all five on a stand); false leaves
+    // the hand waiting as it was, for the player to press again.
+    using HoldCheck = std::function<bool(unsigned holds)>;
+    void setHoldCheck(HoldCheck check) { holdCheck_ = std::move(check); }
 
 private:
     void deal();
@@ -69,6 +77,7 @@ private:
     HandAnalysis analysis_{};
     HandObserver nobody_{};
     HandObserver* observer_{&nobody_};
+    HoldCheck holdCheck_{};
 };
 
 } // namespace marivale

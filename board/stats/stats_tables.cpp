@@ -124,6 +124,7 @@ QTableWidget* makeSummaryTable(QWidget* parent) {
         QObject::tr("Average bonus factor"),
         QObject::tr("Trainer mistakes"),
         QObject::tr("Cost of the mistakes"),
+        QObject::tr("Hinted hands"),
     });
     const std::pair<SummaryRow, QString> tips[] = {
         {SummaryRow::ResultBets, QObject::tr("What the settled hands paid less their bets, each "
@@ -175,6 +176,7 @@ void showSummaryTable(QTableWidget& table, const SessionStats& stats,
         row(SummaryRow::BonusFactor, factor ? decimalText(*factor, 1) : kNone);
         row(SummaryRow::Mistakes, trainerCell(trainer[c], false));
         row(SummaryRow::MistakeCost, trainerCell(trainer[c], true));
+        row(SummaryRow::Hinted, countText(stats.hinted(column == kVisitColumn)));
     }
     fitTable(table);
 }

@@ -39,6 +39,7 @@ enum class SummaryRow {
     BonusFactor,
     Mistakes,
     MistakeCost,
+    Hinted,
     Count
 };
 

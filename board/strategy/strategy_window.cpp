@@ -40,6 +40,7 @@ StrategyWindow::StrategyWindow(GameId game, const GameState& state, QWidget* par
     connect(figures_, &GameFigures::boardTableAsked, this, &StrategyWindow::useBoardTable);
     connect(figures_, &GameFigures::tableChosen, this, &StrategyWindow::useTable);
     connect(trainer_, &TrainerPanel::switched, this, &StrategyWindow::trainerSwitched);
+    connect(trainer_, &TrainerPanel::warningChanged, this, &StrategyWindow::warningChanged);
     connect(study_, &StudyPanel::studied, this, &StrategyWindow::studyHand);
 
     dealtLabel_->setText(tr("Deal a hand to see the 32 ways to hold it."));
@@ -293,6 +294,10 @@ void StrategyWindow::judge(unsigned played) {
 
 void StrategyWindow::setTrainerMode(bool on) {
     trainer_->setOn(on);
+}
+
+void StrategyWindow::showWarning(const MistakeWarning& warning) {
+    trainer_->showWarning(game_, warning);
 }
 
 // F2 closes the window as it opened it; so does Escape, as in the statistics.

@@ -26,6 +26,7 @@
 #include "play/background_job.h"
 #include "play/stats/session_stats.h"
 #include "play/strategy/hold_judgement.h"
+#include "play/strategy/mistake_guard.h"
 #include "state/game_state.h"
 
 class QKeyEvent;
@@ -80,12 +81,16 @@ public:
 
     // Trainer mode as the run left it.
     void setTrainerMode(bool on);
+    // The board's draw waits for this warning of a costly hold.
+    void showWarning(const MistakeWarning& warning);
 
 signals:
     // Trainer mode was switched on or off.
     void trainerSwitched(bool on);
     // Trainer mode judged the hold of the hand dealt last, by the board's own pay table.
     void holdJudged(const HoldJudgement& judgement);
+    // The warning before a costly hold was switched or given another threshold.
+    void warningChanged(const WarningOption& option);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

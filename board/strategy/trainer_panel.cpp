@@ -1,9 +1,14 @@
 #include "board/strategy/trainer_panel.h"
 
+// Standard library
+#include <algorithm>
+
 // Qt
 #include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSettings>
 #include <QVBoxLayout>
 
 // Marivale
@@ -15,12 +20,19 @@
 namespace marivale {
 namespace {
 
+constexpr const char* kApplication = "Vandrine";
+constexpr const char* kWarnKey = "Trainer/WarnBeforeCostlyHold";
+constexpr const char* kThresholdKey = "Trainer/WarnThresholdBets";
+constexpr double kMostThreshold = 5.0;
+
+QString lineText(GameId game, const HandCards& dealt, unsigned held) {
+    return QString::fromStdString(
+        odds::lineName(game, odds::chartLineOf(odds::ChartKind::Complete, game, dealt, held)));
+}
+
 // A hold by its chart line, with the cards it keeps as coloured text and its return.
 QString holdHtml(GameId game, const HandCards& dealt, unsigned held, double bets) {
-    const QString line =
-        QString::fromStdString(
-            odds::lineName(game, odds::chartLineOf(odds::ChartKind::Complete, game, dealt, held)))
-            .toHtmlEscaped();
+    const QString line = lineText(game, dealt, held).toHtmlEscaped();
     if (held == 0) {
         return QObject::tr("%1 (%2 bets)").arg(line, decimalText(bets, 4));
     }
@@ -28,6 +40,27 @@ QString holdHtml(GameId game, const HandCards& dealt, unsigned held, double bets
 }
 
 } // namespace
+
+WarningOption savedWarningOption() {
+    const QSettings store(kApplication, kApplication);
+    return WarningOption{
+        store.value(kWarnKey, false).toBool(),
+        std::clamp(store.value(kThresholdKey, 0.0).toDouble(), 0.0, kMostThreshold)};
+}
+
+void saveWarningOption(const WarningOption& option) {
+    QSettings store(kApplication, kApplication);
+    store.setValue(kWarnKey, option.on);
+    store.setValue(kThresholdKey, option.threshold);
+}
+
+QString warningText(GameId game, const MistakeWarning& warning) {
+    const HoldJudgement& j = warning.judgement;
+    return QObject::tr("Your hold costs %1 bets (%2): you held %3; the chart says %4. Draw or "
+                       "Stand again to play it.")
+        .arg(decimalText(j.bestReturn - j.playedReturn, 2), moneyText(j.cost),
+             lineText(game, warning.dealt, warning.held), lineText(game, warning.dealt, j.best));
+}
 
 TrainerPanel::TrainerPanel(QWidget* parent) : QWidget(parent) {
     auto* layout = new QVBoxLayout(this);
@@ -41,6 +74,22 @@ TrainerPanel::TrainerPanel(QWidget* parent) : QWidget(parent) {
     tallyLabel_->setObjectName(QStringLiteral("TrainerTally"));
     trainerRow->addWidget(tallyLabel_);
     layout->addLayout(trainerRow);
+
+    auto* warnRow = new QHBoxLayout;
+    warn_ = new QCheckBox(tr("&Warn before a hold that costs more than"), this);
+    warn_->setObjectName(QStringLiteral("WarnBeforeMistake"));
+    warnRow->addWidget(warn_);
+    threshold_ = new QDoubleSpinBox(this);
+    threshold_->setObjectName(QStringLiteral("WarnThreshold"));
+    threshold_->setRange(0.0, kMostThreshold);
+    threshold_->setDecimals(2);
+    threshold_->setSingleStep(0.05);
+    threshold_->setSuffix(tr(" bets"));
+    threshold_->setSpecialValueText(tr("nothing (any loss)"));
+    threshold_->setToolTip(tr("The least loss in bets worth a warning; 0 warns of any loss"));
+    warnRow->addWidget(threshold_);
+    warnRow->addStretch(1);
+    layout->addLayout(warnRow);
 
     verdict_ = new QLabel(this);
     verdict_->setObjectName(QStringLiteral("TrainerVerdict"));
@@ -58,6 +107,31 @@ TrainerPanel::TrainerPanel(QWidget* parent) : QWidget(parent) {
         emit switched(on);
     });
     showTally(TrainerSummary{});
+    setWarningOption(savedWarningOption());
+    connect(warn_, &QCheckBox::toggled, this, &TrainerPanel::warningEdited);
+    connect(threshold_, &QDoubleSpinBox::valueChanged, this, &TrainerPanel::warningEdited);
+}
+
+void TrainerPanel::setWarningOption(const WarningOption& option) {
+    const QSignalBlocker blockWarn(warn_);
+    const QSignalBlocker blockThreshold(threshold_);
+    warn_->setChecked(option.on);
+    threshold_->setValue(option.threshold);
+}
+
+void TrainerPanel::warningEdited() {
+    const WarningOption option{warn_->isChecked(), threshold_->value()};
+    saveWarningOption(option);
+    emit warningChanged(option);
+}
+
+void TrainerPanel::showWarning(GameId game, const MistakeWarning& warning) {
+    const HoldJudgement& j = warning.judgement;
+    verdict_->setText(QStringLiteral("<b>%1</b><br>%2")
+                          .arg(warningText(game, warning).toHtmlEscaped(),
+                               tr("Yours: %1 &nbsp; Best: %2")
+                                   .arg(holdHtml(game, warning.dealt, warning.held, j.playedReturn),
+                                        holdHtml(game, warning.dealt, j.best, j.bestReturn))));
 }
 
 bool TrainerPanel::isOn() const {

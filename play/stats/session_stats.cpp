@@ -262,4 +262,25 @@ TrainerSummary SessionStats::trainer(bool visitOnly) const {
     return summary;
 }
 
+void SessionStats::markHinted() {
+    if (HandRecord* hand = openHand(); hand != nullptr && !hand->hinted) {
+        hand->hinted = true;
+        changed();
+    }
+}
+
+void SessionStats::markWarned() {
+    if (HandRecord* hand = openHand()) {
+        hand->warned = true;
+    }
+}
+
+int SessionStats::hinted(bool visitOnly) const {
+    int count = 0;
+    for (const HandRecord& hand : history_) {
+        count += hand.hinted && (!visitOnly || hand.visit == visits_) ? 1 : 0;
+    }
+    return count;
+}
+
 } // namespace marivale

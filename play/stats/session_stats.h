@@ -42,6 +42,8 @@ struct HandRecord {
     bool finished{false};
     bool abandoned{false}; // the board closed before the hand was settled
     bool trainer{false};   // trainer mode was on when the player drew
+    bool hinted{false};    // the player asked for the best hold before playing
+    bool warned{false};    // the draw waited once for a warning of a costly hold
     std::optional<HoldJudgement> judgement{};
 };
 
@@ -137,6 +139,11 @@ public:
     void setLatestJudgement(const HoldJudgement& judgement);
     // The mistakes of trainer mode, in the visit or over the run.
     TrainerSummary trainer(bool visitOnly) const;
+    // The hand in play was shown its best hold, or warned of a costly one.
+    void markHinted();
+    void markWarned();
+    // Hands shown their best hold, in the visit or over the run.
+    int hinted(bool visitOnly) const;
 
 private:
     HandRecord* openHand();

@@ -14,11 +14,14 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
+#include <QTemporaryDir>
 
 // Marivale
 #include "board/board_companions.h"
 #include "board/board_keys.h"
+#include "board/stats/stats_tables.h"
 #include "board/strategy/hold_table.h"
+#include "engine/odds/draw_tables.h"
 #include "play/board_captions.h"
 #include "play/stats/session_stats.h"
 #include "tests/support/board_fixture.h"
@@ -31,6 +34,8 @@ Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
 class BoardKeysTest : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase();
+    void warningAndHintByKeys();
     void keysPlayAHand_data();
     void keysPlayAHand();
     void enterNeverReachesTheFocusedControl();
@@ -279,6 +284,66 @@ void BoardKeysTest::tooltipsNameTheKeys() {
         QVERIFY2(tip.contains(QStringLiteral("press %1 ").arg(p + 1)), qPrintable(tip));
     }
     QVERIFY(f.find("DrawDeal")->toolTip().contains(QStringLiteral("Enter")));
+}
+
+// The options the player sets are kept in a folder of the test's own.
+void BoardKeysTest::initTestCase() {
+    static QTemporaryDir config;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config.path());
+}
+
+// With the warning on, Enter on a costly hold leaves the board as it was and tells the cost in
+// Strategy; Enter again draws with that hold, counted once. F5 frames the best hold's cards
+// until the draw.
+void BoardKeysTest::warningAndHintByKeys() {
+    odds::DrawTables::forGame(GameId::JacksOrBetter);
+    SessionStats run;
+    BoardFixture f(GameId::JacksOrBetter, 0.0f, 1.0f, false, nullptr, &run);
+    QWidget* board = f.board.get();
+    f.buy(4);
+    QTest::keyClick(board, Qt::Key_F2);
+    auto* warn = f.find<QCheckBox>(QStringLiteral("WarnBeforeMistake"));
+    QVERIFY(warn != nullptr && !warn->isChecked());
+    warn->setChecked(true);
+    QTest::keyClick(board, Qt::Key_F2);
+    f.script("Ah Kh Qh Jh 2c");
+    QTest::keyClick(board, Qt::Key_Return);
+    QTest::keyClick(board, Qt::Key_F5);
+    for (int p = 0; p < 5; ++p) {
+        QCOMPARE(f.find(QStringLiteral("Hint%1").arg(p))->isVisibleTo(board), p < 4);
+    }
+    QTest::keyClick(board, Qt::Key_1);
+    QTest::keyClick(board, Qt::Key_2);
+    const QString dealtPicture = f.picture(4);
+    QTest::keyClick(board, Qt::Key_Return);
+    QCOMPARE(f.state.DrawPhase, 1);
+    QCOMPARE(f.text("DrawDeal"), QStringLiteral("D&raw"));
+    QCOMPARE(f.text("Card1Ind"), QStringLiteral("Hold"));
+    QCOMPARE(f.text("Card2Ind"), QString());
+    QCOMPARE(f.picture(4), dealtPicture);
+    QVERIFY(f.find(QStringLiteral("Strategy"))->isVisible());
+    QVERIFY(f.find<QLabel>(QStringLiteral("TrainerVerdict"))
+                ->text()
+                .startsWith(QStringLiteral(
+                    "<b>Your hold costs 6.24 bets ($6.24): you held Suited AK; the chart says 4 "
+                    "to a Royal Flush, 1 gap, 4 high cards. Draw or Stand again to play it.</b>")));
+    f.script("2d 3s 4c 5d 6s");
+    QTest::keyClick(board, Qt::Key_Return);
+    QCOMPARE(f.state.DrawPhase, 0);
+    QCOMPARE(f.find(QStringLiteral("Hint0"))->isVisibleTo(board), false);
+    QCOMPARE(run.history().size(), std::size_t{1});
+    const HandRecord& hand = run.history()[0];
+    QCOMPARE(hand.holds, 0b00011U);
+    QVERIFY(hand.hinted && hand.warned);
+    QCOMPARE(run.hinted(true), 1);
+    QCOMPARE(run.visit().hands, 1);
+    QCOMPARE(run.visit().bet, 1.0f);
+    QTest::keyClick(board, Qt::Key_F3);
+    auto* summary = f.find<QTableWidget>(QStringLiteral("Summary"));
+    const int hinted = static_cast<int>(SummaryRow::Hinted);
+    QCOMPARE(summary->verticalHeaderItem(hinted)->text(), QStringLiteral("Hinted hands"));
+    QCOMPARE(summary->item(hinted, kVisitColumn)->text(), QStringLiteral("1"));
+    warn->setChecked(false);
 }
 
 QTEST_MAIN(BoardKeysTest)

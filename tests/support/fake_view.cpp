@@ -1,6 +1,10 @@
 #include "tests/support/fake_view.h"
 
+// Standard library
+#include <cstdlib>
+
 // Marivale
+#include "engine/dealing.h"
 #include "play/board_captions.h"
 #include "tests/support/hand_text.h"
 
@@ -47,7 +51,22 @@ Table::Table(GameId game, float netWinLoss, float playUnit, HandObserver* observ
     view.setText(Control::DrawDeal, phaseCaptions(Phase::BeforeDeal).drawDeal);
     view.setText(Control::Stand, phaseCaptions(Phase::BeforeDeal).stand);
     controller.setObserver(observer);
+    if (std::getenv("MARIVALE_WARNING_OFF") != nullptr) {
+        useWarning(WarningOption{});
+    }
     controller.load();
+}
+
+void Table::useWarning(const WarningOption& option) {
+    view.guard.setOption(option);
+    controller.setHoldCheck([this](unsigned held) {
+        const auto warning =
+            view.guard.check(controller.variant().game, boardCards(state), held, state.BetAmount);
+        if (warning) {
+            view.warnings.push_back(*warning);
+        }
+        return !warning;
+    });
 }
 
 void Table::script(std::string_view cards) {

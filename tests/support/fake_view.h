@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "play/play_controller.h"
+#include "play/strategy/mistake_guard.h"
 #include "tests/support/scripted_random_source.h"
 
 namespace marivale::testing {
@@ -25,6 +26,7 @@ public:
     void runDoubleUp() override;
     TreasureHunt& treasureHunt() override { return *this; }
     void play(GameState& state) override;
+    void handDealt() override { guard.dealt(); }
     void handPlayed(const HandHolds& held) override { lastHolds = held; }
 
     bool enabled(Control control) const;
@@ -44,6 +46,9 @@ public:
     }};
     // The chest factors the Treasure Hunt multiplies by.
     std::vector<int> chests{};
+    // The trainer's warning before a costly hold, as the board keeps it.
+    MistakeGuard guard{};
+    std::vector<MistakeWarning> warnings{};
 
 private:
     std::map<Control, std::string> texts_{};
@@ -63,6 +68,9 @@ struct Table {
     // Deals these cards, holds the positions in the mask and draws the drawn cards, or stands
     // when every position is held.
     void hand(std::string_view dealt, unsigned holds, std::string_view drawn = {});
+    // Consults the warning before each draw or stand, as the board does. Every table does so
+    // with the option off when MARIVALE_WARNING_OFF is set.
+    void useWarning(const WarningOption& option);
 
     GameState state{};
     ScriptedRandomSource random{};

@@ -96,6 +96,8 @@ struct HoldQuestion {
     float bet{0.0f};
 };
 
+class HandSink;
+
 class SessionStats final : public HandObserver {
 public:
     void visitStarted(GameId game, float credits) override;
@@ -114,6 +116,10 @@ public:
     // player draws.
     void setTrainerMode(bool on) { trainerMode_ = on; }
     bool trainerMode() const { return trainerMode_; }
+    // Where each ended hand, late judgement and move of money is also sent; nullptr sends
+    // nothing.
+    void setSink(HandSink* sink) { sink_ = sink; }
+    HandSink* sink() const { return sink_; }
     // Called after every event and judgement, for a window that shows the model.
     void setListener(std::function<void()> listener) { listener_ = std::move(listener); }
 
@@ -141,6 +147,7 @@ public:
 private:
     HandRecord* openHand();
     void changed() const;
+    void moneyMoved(CreditMarkKind kind, float amount, float credits);
 
     int visits_{0};
     GameId visitGame_{GameId::JacksOrBetter};
@@ -152,6 +159,7 @@ private:
     bool handOpen_{false};
     bool trainerMode_{false};
     std::function<void()> listener_{};
+    HandSink* sink_{nullptr};
 };
 
 // A hand the odds can judge: the player chose a hold on five good cards.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 // Standard library
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -17,6 +18,7 @@
 // Marivale
 #include "play/stats/session_stats.h"
 #include "play/strategy/hold_judgement.h"
+#include "record/record_query.h"
 #include "record/record_rows.h"
 #include "record/record_schema.h"
 #include "record/record_store.h"
@@ -98,6 +100,48 @@ TEST(Record, LifetimeFiguresOfTwoRuns) {
     EXPECT_NEAR(scalar(rdb, QStringLiteral("SELECT SUM(cost) FROM line_costs")), double(cost),
                 1e-4);
     EXPECT_EQ(scalar(rdb, QStringLiteral("SELECT COUNT(*) FROM hands WHERE best_line IS NULL")), 0);
+}
+
+// The lifetime figures read back, the hands paged newest first, and a filter as CSV.
+TEST(Record, FiguresPagesAndCsvOfAFilter) {
+    Folder folder;
+    RecordStore store(folder.path());
+    SessionStats stats;
+    stats.setSink(&store);
+    playVisit(stats);
+    playVisit(stats);
+    judgeAll(stats);
+    const std::vector<TableFigures> figures = lifetimeFigures(store.database());
+    ASSERT_EQ(figures.size(), 1u);
+    EXPECT_EQ(figures[0].payTable.toStdString(), "250 100 25 8 5 4 3 1 1");
+    EXPECT_EQ(figures[0].hands, 6);
+    EXPECT_DOUBLE_EQ(figures[0].paid, 12.0);
+    EXPECT_EQ(figures[0].codes[0], 2);
+    EXPECT_EQ(figures[0].judged, 6);
+    std::vector<qint64> ids;
+    for (auto page = historyPage(store.database(), {}, std::nullopt, 4); !page.empty();
+         page = historyPage(store.database(), {}, ids.back(), 4)) {
+        for (const RecordedHand& row : page) {
+            EXPECT_TRUE(ids.empty() || row.id < ids.back());
+            ids.push_back(row.id);
+        }
+    }
+    EXPECT_EQ(ids.size(), 6u);
+    const QString csv = folder.dir.filePath(QStringLiteral("mistakes.csv"));
+    ASSERT_TRUE(exportRecord(store.database(), {.game = GameId::JacksOrBetter, .mistakesOnly = true},
+                             csv));
+    QFile file(csv);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    const auto mistakes = std::count_if(stats.history().begin(), stats.history().end(),
+                                        [](const HandRecord& h) { return h.judgement->mistake; });
+    ASSERT_EQ(lines.size(), mistakes + 2); // the header and the end of the last line
+    EXPECT_EQ(lines[0].toStdString(),
+              "Time,Run,Visit,Hand,Game,Pay Table,Bet,Dealt,Held,Final,Result,Paid,Double Up,"
+              "Bonus,Best Hold,Best Line,Cost");
+    EXPECT_EQ(lines[1].section(QLatin1Char(','), 1, 14).toStdString(),
+              "1,1,2,Jacks or Better,250 100 25 8 5 4 3 1 1,1.00,2c 5d 9h Js Kd,2c 5d 9h Js Kd,"
+              "2c 5d 9h Js Kd,,0.00,,0.00,Js Kd");
 }
 
 // A database of each earlier version, with a hand in it where the version kept hands, comes up

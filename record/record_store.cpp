@@ -43,6 +43,18 @@ Trouble troubleOf(const QSqlError& error) {
     }
 }
 
+QString keptAsideMessage(const QString& aside) {
+    return QObject::tr("Your playing record could not be read. It was kept as %1 and a new record "
+                       "was started.")
+        .arg(aside);
+}
+
+QString stoppedMessage(const QString& path) {
+    return QObject::tr("Your playing record at %1 can't be written any more, so the rest of this "
+                       "run is not recorded. Play goes on.")
+        .arg(path);
+}
+
 qint64 now() {
     return QDateTime::currentMSecsSinceEpoch();
 }
@@ -132,9 +144,7 @@ bool RecordStore::open() {
     if (!openFile()) {
         return false;
     }
-    say(QObject::tr("Your playing record could not be read. It was kept as %1 and a new "
-                    "record was started.")
-            .arg(keptAside_));
+    say(keptAsideMessage(keptAside_));
     return true;
 }
 
@@ -246,14 +256,24 @@ void RecordStore::flush() {
     switch (troubleOf(error)) {
     case Trouble::Busy:
         return;
+    case Trouble::Corrupt:
+        // Found in play: the file goes aside as at the start, and what waits goes in a new one.
+        if (keptAside_.isEmpty()) {
+            database().close();
+            if (setAside() && openFile()) {
+                say(keptAsideMessage(keptAside_));
+                flush();
+                return;
+            }
+        }
+        stop(stoppedMessage(path_));
+        return;
     case Trouble::Full:
         stop(QObject::tr("The disk is full, so your playing record has stopped; the hands "
                          "recorded so far are kept. Play goes on."));
         return;
     default:
-        stop(QObject::tr("Your playing record at %1 can't be written any more, so the rest of "
-                         "this run is not recorded. Play goes on.")
-                 .arg(path_));
+        stop(stoppedMessage(path_));
         return;
     }
 }

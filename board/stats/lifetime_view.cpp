@@ -67,7 +67,7 @@ LifetimeView::LifetimeView(const SessionStats& stats, RecordStore* store, QWidge
     scope_->addItems({tr("This run"), tr("All time")});
     table_ = new QComboBox(this);
     table_->setObjectName(QStringLiteral("LifetimeTable"));
-    forget_ = new QPushButton(tr("Forget My &History\u2026"), this);
+    forget_ = new QPushButton(tr("Forget M&y History\u2026"), this);
     forget_->setObjectName(QStringLiteral("ForgetHistory"));
     forget_->setToolTip(tr("Delete every recorded hand of every run"));
     choices->addWidget(scope_);

@@ -113,10 +113,10 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent, RecordStore* reco
     historyLayout->addLayout(exportRow);
     tabs_->addTab(historyPage, tr("Hand H&istory"));
     lifetime_ = new LifetimeView(stats_, record, tabs_);
-    tabs_->addTab(lifetime_, tr("All &Time"));
+    tabs_->addTab(lifetime_, tr("&All Time"));
     if (record != nullptr) {
         recorded_ = new RecordHistory(*record, tabs_);
-        tabs_->addTab(recorded_, tr("Recor&ded Hands"));
+        tabs_->addTab(recorded_, tr("E&very Hand"));
         connect(lifetime_, &LifetimeView::forgotten, recorded_, &RecordHistory::refresh);
     }
     connect(tabs_, &QTabWidget::currentChanged, this, &StatsWindow::refreshRecordTabs);

@@ -128,8 +128,8 @@ TEST(Record, FiguresPagesAndCsvOfAFilter) {
     }
     EXPECT_EQ(ids.size(), 6u);
     const QString csv = folder.dir.filePath(QStringLiteral("mistakes.csv"));
-    ASSERT_TRUE(exportRecord(store.database(), {.game = GameId::JacksOrBetter, .mistakesOnly = true},
-                             csv));
+    ASSERT_TRUE(
+        exportRecord(store.database(), {.game = GameId::JacksOrBetter, .mistakesOnly = true}, csv));
     QFile file(csv);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));

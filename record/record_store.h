@@ -68,9 +68,9 @@ private:
     void stop(const QString& message);
     void say(const QString& message);
 
-    QString path_;
-    QString connection_;
-    Notice notice_;
+    QString path_{};
+    QString connection_{};
+    Notice notice_{};
     bool recording_{false};
     bool said_{false};
     qint64 run_{0};

@@ -2,8 +2,9 @@
 
 // The statistics of a run, recorded from the play controller's events: a tally of the current
 // visit and of every game over the whole run, the visit's result after each hand, and the
-// history of every hand. It only listens; nothing here changes the board or is saved. The cost
-// of each hold is filled in later, from the exact odds, by whoever can spare the time.
+// history of every hand. It only listens; nothing here changes the board, and what must outlast
+// the run is handed to its sink (the player's record). The cost of each hold is filled in
+// later, from the exact odds, by whoever can spare the time.
 
 // Standard library
 #include <array>

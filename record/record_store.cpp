@@ -14,6 +14,7 @@
 #include <QThread>
 
 // Marivale
+#include "record/log_checkpointer.h"
 #include "record/record_rows.h"
 #include "record/record_schema.h"
 
@@ -103,6 +104,7 @@ RecordStore::RecordStore(const QString& path, Notice notice)
 }
 
 RecordStore::~RecordStore() {
+    checkpointer_.reset();
     {
         QSqlDatabase db = database();
         db.close();
@@ -167,6 +169,8 @@ bool RecordStore::openFile() {
         }
     }
     if (!trouble) {
+        QSqlQuery(db).exec(QStringLiteral("PRAGMA wal_autocheckpoint = 0"));
+        checkpointer_ = std::make_unique<LogCheckpointer>(path_);
         return true;
     }
     if (trouble == Trouble::Corrupt && keptAside_.isEmpty()) {
@@ -186,6 +190,7 @@ bool RecordStore::openFile() {
 
 // Renames the file and its log aside, never deleting them.
 bool RecordStore::setAside() {
+    checkpointer_.reset();
     const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString aside = path_ + QStringLiteral(".corrupt-") + stamp;
     for (int n = 2; QFile::exists(aside); ++n) {
@@ -249,6 +254,7 @@ void RecordStore::flush() {
             break;
         }
         pending_.pop_front();
+        checkpointer_->written();
     }
     if (pending_.empty()) {
         return;

@@ -10,6 +10,7 @@
 // Standard library
 #include <deque>
 #include <functional>
+#include <memory>
 
 // Qt
 #include <QSqlDatabase>
@@ -19,6 +20,8 @@
 #include "play/stats/hand_sink.h"
 
 namespace marivale {
+
+class LogCheckpointer;
 
 class RecordStore final : public HandSink {
 public:
@@ -76,6 +79,7 @@ private:
     qint64 run_{0};
     QString keptAside_{};
     std::deque<Pending> pending_{};
+    std::unique_ptr<LogCheckpointer> checkpointer_{};
 };
 
 } // namespace marivale

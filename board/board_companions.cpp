@@ -10,6 +10,7 @@
 #include "board/stats/stats_window.h"
 #include "board/strategy/strategy_window.h"
 #include "play/stats/session_stats.h"
+#include "record/record_store.h"
 
 namespace marivale {
 namespace {
@@ -107,7 +108,8 @@ void BoardCompanions::replay(const HandRecord& hand) {
 
 void BoardCompanions::toggleStatistics() {
     if (statsWindow_ == nullptr) {
-        statsWindow_ = new StatsWindow(stats_, &board_);
+        // The run's statistics send their hands to the player's record, when there is one.
+        statsWindow_ = new StatsWindow(stats_, &board_, dynamic_cast<RecordStore*>(stats_.sink()));
         QObject::connect(statsWindow_, &StatsWindow::replayAsked, &board_,
                          [this](const HandRecord& hand) { replay(hand); });
     }

@@ -4,11 +4,13 @@
 // Qt
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 
 // Marivale
 #include "engine/random_source.h"
 #include "play/stats/session_stats.h"
 #include "program/program_windows.h"
+#include "record/record_store.h"
 #include "shell/main_menu.h"
 #include "shell/quit_sequence.h"
 #include "shell/signal_bridge.h"
@@ -32,6 +34,21 @@ int main(int argc, char* argv[]) {
     marivale::ClockRandomSource random;
 
     marivale::SessionStats stats{}; // the run's statistics, kept across every board visit
+    // The player's record of every run; a problem with it is told once and play goes on.
+    marivale::RecordStore record(marivale::RecordStore::defaultPath(), [](const QString& text) {
+        QMetaObject::invokeMethod(
+            qApp,
+            [text] {
+                auto* box =
+                    new QMessageBox(QMessageBox::Information, QApplication::applicationName(), text,
+                                    QMessageBox::Ok, QApplication::activeWindow());
+                box->setAttribute(Qt::WA_DeleteOnClose);
+                box->setObjectName(QStringLiteral("RecordNotice"));
+                box->show();
+            },
+            Qt::QueuedConnection);
+    });
+    stats.setSink(&record);
     marivale::MainMenu menu(state, marivale::programMenuHooks(state, random, stats));
     bool menuClosed = false;
     QObject::connect(&menu, &marivale::MainMenu::closed, &app, [&menuClosed, &bridge] {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Fails on any include that runs back up a layer. The layers, lowest first:
-#   state < engine < engine/odds < play < ui < windows (bonus, board, shell) < program
+#   state < engine < engine/odds < play < record < ui < windows (bonus, board, shell) < program
 # A file may include its own folder's layer and any layer below it; the three window folders
 # never include one another. state, engine and play are plain C++: no Qt header at all.
 set -euo pipefail
@@ -13,9 +13,10 @@ rank() {
     engine/odds/*) echo 3 ;;
     engine/*) echo 2 ;;
     play/*) echo 4 ;;
-    ui/*) echo 5 ;;
-    bonus/* | board/* | shell/*) echo 6 ;;
-    program/*) echo 7 ;;
+    record/*) echo 5 ;;
+    ui/*) echo 6 ;;
+    bonus/* | board/* | shell/*) echo 7 ;;
+    program/*) echo 8 ;;
     *) echo 0 ;;
     esac
 }

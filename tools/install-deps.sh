@@ -4,7 +4,7 @@
 # only as a recommendation, so it is named here.
 set -euo pipefail
 packages=(cmake g++ make pkg-config clang-format clang libclang-rt-dev libgtest-dev libbenchmark-dev
-          qt6-base-dev qt6-multimedia-dev qt6-charts-dev qt6-image-formats-plugins libgif-dev
+          qt6-base-dev qt6-multimedia-dev qt6-charts-dev libqt6sql6-sqlite qt6-image-formats-plugins libgif-dev
           fonts-dejavu-core fonts-liberation2
           xvfb xauth openbox xdotool x11-utils imagemagick qt6ct dpkg-dev appstream lintian
           poppler-utils)

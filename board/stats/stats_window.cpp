@@ -25,6 +25,8 @@
 // Marivale
 #include "board/stats/credit_chart.h"
 #include "board/stats/history_model.h"
+#include "board/stats/lifetime_view.h"
+#include "board/stats/record_history.h"
 #include "board/stats/stats_tables.h"
 #include "engine/odds/draw_tables.h"
 #include "engine/odds/pay_scale.h"
@@ -59,7 +61,7 @@ int historyWidth(const QTableView& view) {
 
 } // namespace
 
-StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
+StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent, RecordStore* record)
     : QWidget(parent, Qt::Tool), stats_(stats) {
     setObjectName(QStringLiteral("Statistics"));
     setWindowTitle(tr("Session Statistics"));
@@ -110,6 +112,14 @@ StatsWindow::StatsWindow(SessionStats& stats, QWidget* parent)
     exportRow->addWidget(exportButton);
     historyLayout->addLayout(exportRow);
     tabs_->addTab(historyPage, tr("Hand H&istory"));
+    lifetime_ = new LifetimeView(stats_, record, tabs_);
+    tabs_->addTab(lifetime_, tr("&All Time"));
+    if (record != nullptr) {
+        recorded_ = new RecordHistory(*record, tabs_);
+        tabs_->addTab(recorded_, tr("E&very Hand"));
+        connect(lifetime_, &LifetimeView::forgotten, recorded_, &RecordHistory::refresh);
+    }
+    connect(tabs_, &QTabWidget::currentChanged, this, &StatsWindow::refreshRecordTabs);
     layout->addWidget(tabs_, 1);
 
     connect(exportButton, &QPushButton::clicked, this, &StatsWindow::exportClicked);
@@ -177,6 +187,9 @@ void StatsWindow::refresh() {
     showFrequencyTable(*frequencies_, stats_, visitOdds);
     chart_->showVisit(stats_, visitOdds);
     historyModel_->refresh();
+    if (tabs_->currentWidget() == lifetime_) {
+        lifetime_->refresh();
+    }
     if (isVisible()) {
         startWork();
     }
@@ -232,6 +245,15 @@ void StatsWindow::startWork() {
             QMetaObject::invokeMethod(
                 this, [this] { workDone(); }, Qt::QueuedConnection);
         });
+}
+
+// The record's pages are read when they are shown, not after every hand.
+void StatsWindow::refreshRecordTabs() {
+    if (tabs_->currentWidget() == lifetime_) {
+        lifetime_->refresh();
+    } else if (recorded_ != nullptr && tabs_->currentWidget() == recorded_) {
+        recorded_->refresh();
+    }
 }
 
 void StatsWindow::workDone() {

@@ -24,11 +24,17 @@ namespace marivale {
 
 class CreditChart;
 class HistoryModel;
+class LifetimeView;
+class RecordHistory;
+class RecordStore;
 
 class StatsWindow : public QWidget {
     Q_OBJECT
 public:
-    explicit StatsWindow(SessionStats& stats, QWidget* parent = nullptr);
+    // With the player's record, the window also shows the figures of all time and every
+    // recorded hand.
+    explicit StatsWindow(SessionStats& stats, QWidget* parent = nullptr,
+                         RecordStore* record = nullptr);
     ~StatsWindow() override;
 
     // Writes the whole history as CSV, judging any hold still waiting first; false when the
@@ -53,6 +59,7 @@ private:
     void startWork();
     void workDone();
     void exportClicked();
+    void refreshRecordTabs();
 
     SessionStats& stats_;
     bool refreshPending_{false};
@@ -65,6 +72,8 @@ private:
     CreditChart* chart_{nullptr};
     HistoryModel* historyModel_{nullptr};
     QTableView* history_{nullptr};
+    LifetimeView* lifetime_{nullptr};
+    RecordHistory* recorded_{nullptr};
 
     // Last member: stopped and joined first when the window goes.
     BackgroundJob work_{};

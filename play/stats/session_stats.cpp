@@ -5,6 +5,7 @@
 
 // Marivale
 #include "engine/odds/hold_odds.h"
+#include "play/stats/hand_sink.h"
 
 namespace marivale {
 
@@ -186,7 +187,16 @@ void SessionStats::settled(float paid, float /*credits*/) {
     const double before = results_.empty() ? 0.0 : results_.back();
     const double won = hand->bet > 0.0f ? (static_cast<double>(paid) - hand->bet) / hand->bet : 0.0;
     results_.push_back(before + won);
+    if (sink_ != nullptr) {
+        sink_->handEnded(*hand);
+    }
     changed();
+}
+
+void SessionStats::moneyMoved(CreditMarkKind kind, float amount, float credits) {
+    if (sink_ != nullptr) {
+        sink_->moneyMoved({visits_, visitGame_, kind, amount, credits});
+    }
 }
 
 void SessionStats::purchased(float amount, float credits) {
@@ -195,6 +205,7 @@ void SessionStats::purchased(float amount, float credits) {
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->purchased += amount;
     }
+    moneyMoved(CreditMarkKind::Purchase, amount, credits);
     changed();
 }
 
@@ -203,6 +214,7 @@ void SessionStats::cashedOut(float amount) {
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += amount;
     }
+    moneyMoved(CreditMarkKind::CashOut, amount, 0.0f);
     changed();
 }
 
@@ -210,10 +222,16 @@ void SessionStats::cashedOut(float amount) {
 void SessionStats::visitEnded(float cashedOut) {
     if (HandRecord* hand = openHand()) {
         hand->abandoned = true;
+        if (sink_ != nullptr) {
+            sink_->handEnded(*hand);
+        }
     }
     handOpen_ = false;
     for (Tally* tally : {&visit_, &run_[gameIndex(visitGame_)]}) {
         tally->cashedOut += cashedOut;
+    }
+    if (cashedOut > 0.0f) {
+        moneyMoved(CreditMarkKind::CashOut, cashedOut, 0.0f);
     }
     changed();
 }
@@ -233,7 +251,12 @@ void SessionStats::setJudgement(std::size_t index, const HoldJudgement& judgemen
     if (index >= history_.size()) {
         return;
     }
-    history_[index].judgement = judgement;
+    HandRecord& hand = history_[index];
+    const bool fresh = !hand.judgement;
+    hand.judgement = judgement;
+    if (fresh && sink_ != nullptr && (hand.finished || hand.abandoned)) {
+        sink_->handJudged(hand);
+    }
     changed();
 }
 

@@ -2,8 +2,9 @@
 
 // The statistics of a run, recorded from the play controller's events: a tally of the current
 // visit and of every game over the whole run, the visit's result after each hand, and the
-// history of every hand. It only listens; nothing here changes the board or is saved. The cost
-// of each hold is filled in later, from the exact odds, by whoever can spare the time.
+// history of every hand. It only listens; nothing here changes the board, and what must outlast
+// the run is handed to its sink (the player's record). The cost of each hold is filled in
+// later, from the exact odds, by whoever can spare the time.
 
 // Standard library
 #include <array>
@@ -98,6 +99,8 @@ struct HoldQuestion {
     float bet{0.0f};
 };
 
+class HandSink;
+
 class SessionStats final : public HandObserver {
 public:
     void visitStarted(GameId game, float credits) override;
@@ -116,6 +119,10 @@ public:
     // player draws.
     void setTrainerMode(bool on) { trainerMode_ = on; }
     bool trainerMode() const { return trainerMode_; }
+    // Where each ended hand, late judgement and move of money is also sent; nullptr sends
+    // nothing.
+    void setSink(HandSink* sink) { sink_ = sink; }
+    HandSink* sink() const { return sink_; }
     // Called after every event and judgement, for a window that shows the model.
     void setListener(std::function<void()> listener) { listener_ = std::move(listener); }
 
@@ -148,6 +155,7 @@ public:
 private:
     HandRecord* openHand();
     void changed() const;
+    void moneyMoved(CreditMarkKind kind, float amount, float credits);
 
     int visits_{0};
     GameId visitGame_{GameId::JacksOrBetter};
@@ -159,6 +167,7 @@ private:
     bool handOpen_{false};
     bool trainerMode_{false};
     std::function<void()> listener_{};
+    HandSink* sink_{nullptr};
 };
 
 // A hand the odds can judge: the player chose a hold on five good cards.

@@ -35,7 +35,7 @@ if command -v appstreamcli >/dev/null; then
     check "metainfo" "appstreamcli validate --no-net '$root/share/metainfo/'*.metainfo.xml >/dev/null"
 fi
 depends="$(dpkg-deb -f "$deb" Depends)"
-for need in fonts-liberation2 libqt6widgets6 libqt6multimedia6 libqt6charts6; do
+for need in fonts-liberation2 libqt6widgets6 libqt6multimedia6 libqt6charts6 libqt6sql6-sqlite; do
     check "depends on $need" "grep -q '$need' <<<'$depends'"
 done
 # Every lintian error and warning fails the test; so does a missing lintian.

@@ -32,8 +32,13 @@ void PracticeDrill::setWeakLines(const std::vector<WeakLine>& lines) {
     feedWeakLines();
 }
 
+// The lines given and the drill's own mistakes, counted together.
 void PracticeDrill::feedWeakLines() {
-    dealer_.setWeakLines(given_.empty() ? sortedLines(ownMistakes_) : given_);
+    std::map<std::string, int> counts = ownMistakes_;
+    for (const WeakLine& line : given_) {
+        counts[line.name] += line.mistakes;
+    }
+    dealer_.setWeakLines(sortedLines(counts));
 }
 
 std::vector<WeakLine> PracticeDrill::weakLines() const {
@@ -75,9 +80,7 @@ const DrillVerdict& PracticeDrill::submit() {
     score_.add(verdict.cost);
     if (verdict.mistake) {
         ++ownMistakes_[verdict.bestLine];
-        if (given_.empty()) {
-            feedWeakLines();
-        }
+        feedWeakLines();
     }
     verdict_ = verdict;
     return *verdict_;

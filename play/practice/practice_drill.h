@@ -3,7 +3,7 @@
 // A practice drill at one game's own pay table: it deals a hand of the mode asked for, takes the
 // player's holds, and judges them once against the best hold by their exact returns, naming
 // both holds' chart lines and the cost in bets. No money moves and no board is touched. The
-// weak-spot mode reads the lines given from outside, or until then the drill's own mistakes.
+// weak-spot mode reads the lines given from outside together with the drill's own mistakes.
 
 // Standard library
 #include <map>
@@ -38,8 +38,8 @@ public:
     DrillMode mode() const { return mode_; }
     void setMode(DrillMode mode) { mode_ = mode; }
 
-    // The lines the player gets wrong, from the player's record; an empty list goes back to the
-    // drill's own mistakes.
+    // The lines the player gets wrong, from the player's record; the drill's own mistakes count
+    // beside them.
     void setWeakLines(const std::vector<WeakLine>& lines);
     // The lines the weak-spot mode deals now, most mistakes first.
     std::vector<WeakLine> weakLines() const;

@@ -82,6 +82,7 @@ PracticeWindow::PracticeWindow(GameId game, QWidget* parent, std::unique_ptr<Ran
         cards_[p]->setFlat(true);
         cards_[p]->setFocusPolicy(Qt::NoFocus);
         marks_[p] = new QLabel(this);
+        marks_[p]->setObjectName(QStringLiteral("DrillHeld%1").arg(p));
         marks_[p]->setAlignment(Qt::AlignCenter);
         marks_[p]->setFont(designFont(10, true));
         column->addWidget(cards_[p]);
@@ -116,6 +117,7 @@ PracticeWindow::PracticeWindow(GameId game, QWidget* parent, std::unique_ptr<Ran
 
     score_ = new QLabel(this);
     score_->setObjectName(QStringLiteral("DrillScore"));
+    score_->setTextFormat(Qt::PlainText);
     layout->addWidget(score_);
     weak_ = new QLabel(this);
     weak_->setObjectName(QStringLiteral("DrillWeakLines"));
@@ -248,7 +250,7 @@ void PracticeWindow::showVerdict() {
 
 void PracticeWindow::showScore() {
     const DrillScore& score = drill_.score();
-    score_->setText(tr("Hands %1 &nbsp;&nbsp; Accuracy %2% &nbsp;&nbsp; Cost per 100 hands %3 bets")
+    score_->setText(tr("Hands %1     Accuracy %2%     Cost per 100 hands %3 bets")
                         .arg(score.hands())
                         .arg(decimalText(score.accuracy(), 1), decimalText(score.costPer100(), 2)));
 }

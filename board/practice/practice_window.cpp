@@ -152,6 +152,21 @@ PracticeWindow::PracticeWindow(GameId game, QWidget* parent, std::unique_ptr<Ran
 
 PracticeWindow::~PracticeWindow() = default;
 
+// Fits every card of the deck once while the odds are worked out, so no hand waits for a
+// picture.
+void PracticeWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (picturesReady_) {
+        return;
+    }
+    picturesReady_ = true;
+    const qreal ratio = cards_[0]->devicePixelRatioF();
+    for (CardCode card = 0; card < deckSize(drill_.game()); ++card) {
+        pictures_.picture(QString::fromStdString(pictureFileName(drill_.game(), card)),
+                          cards_[0]->size(), ratio);
+    }
+}
+
 void PracticeWindow::oddsReady() {
     working_ = false;
     dealNext();

@@ -54,6 +54,7 @@ signals:
     void weakLinesWanted();
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -76,6 +77,7 @@ private:
     PracticeDrill drill_;
     CardPictures pictures_{};
     bool working_{true};
+    bool picturesReady_{false};
     KeyRepeatGuard keys_{};
 
     QComboBox* mode_{nullptr};

@@ -16,6 +16,7 @@
 #include "board/practice/drill_chart.h"
 #include "engine/odds/draw_tables.h"
 #include "play/game_variant.h"
+#include "play/practice/line_deals.h"
 #include "ui/card_text.h"
 #include "ui/design_look.h"
 #include "ui/number_text.h"
@@ -141,13 +142,18 @@ PracticeWindow::PracticeWindow(GameId game, QWidget* parent, std::unique_ptr<Ran
     showWeakLines();
     if (odds::DrawTables::ifBuilt(game) != nullptr) {
         oddsReady();
-    } else {
-        work_.start([this, game](std::stop_token stop) {
-            if (odds::DrawTables::forGameUnlessStopped(game, stop) != nullptr) {
-                QMetaObject::invokeMethod(this, &PracticeWindow::oddsReady, Qt::QueuedConnection);
-            }
-        });
     }
+    // The deals filed by line come after the odds, for the weak spots.
+    work_.start([this, game](std::stop_token stop) {
+        if (odds::DrawTables::forGameUnlessStopped(game, stop) == nullptr) {
+            return;
+        }
+        QMetaObject::invokeMethod(this, &PracticeWindow::oddsReady, Qt::QueuedConnection);
+        if (auto filed = LineDeals::build(game, stop)) {
+            QMetaObject::invokeMethod(
+                this, [this, filed] { drill_.setLineDeals(filed); }, Qt::QueuedConnection);
+        }
+    });
 }
 
 PracticeWindow::~PracticeWindow() = default;
@@ -168,6 +174,9 @@ void PracticeWindow::showEvent(QShowEvent* event) {
 }
 
 void PracticeWindow::oddsReady() {
+    if (!working_) {
+        return;
+    }
     working_ = false;
     dealNext();
 }

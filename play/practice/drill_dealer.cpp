@@ -100,9 +100,36 @@ const std::string& DrillDealer::pickWeakLine() {
     return weak_.back().name;
 }
 
+// A filed deal of a weak line the game has, picked by its mistakes.
+DrillDeal DrillDealer::dealFiled() {
+    int total = 0;
+    for (const WeakLine& line : weak_) {
+        total += filed_->deals(line.name) > 0 ? line.mistakes : 0;
+    }
+    if (total == 0) {
+        DrillDeal fallback = analysed(randomCards(), 1);
+        fallback.asked = false;
+        return fallback;
+    }
+    int pick = indexBelow(random_, total);
+    for (const WeakLine& line : weak_) {
+        if (filed_->deals(line.name) == 0) {
+            continue;
+        }
+        if (pick < line.mistakes) {
+            return analysed(*filed_->deal(line.name, random_), 1);
+        }
+        pick -= line.mistakes;
+    }
+    return analysed(randomCards(), 1);
+}
+
 // Draws deals until the best hold plays the weak line picked, settling for any weak line once
-// the picked one proves rare.
+// the picked one proves rare; deals from the filed deals once they are there.
 DrillDeal DrillDealer::dealWeakSpot() {
+    if (filed_ != nullptr) {
+        return dealFiled();
+    }
     const std::string& wanted = pickWeakLine();
     DrillDeal anyWeak;
     bool haveAnyWeak = false;

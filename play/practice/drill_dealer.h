@@ -6,6 +6,7 @@
 
 // Standard library
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "engine/odds/hold_odds.h"
 #include "engine/odds/pay_scale.h"
 #include "engine/random_source.h"
+#include "play/practice/line_deals.h"
 
 namespace marivale {
 
@@ -54,6 +56,9 @@ public:
     // left out.
     void setWeakLines(const std::vector<WeakLine>& lines);
     const std::vector<WeakLine>& weakLines() const { return weak_; }
+    // The game's deals filed by line: weak spots are then dealt from them instead of searched
+    // for.
+    void setLineDeals(std::shared_ptr<const LineDeals> filed) { filed_ = std::move(filed); }
 
     // A hand for the mode; builds the game's draw tables on first use. Weak spots with no weak
     // line deal as random deals do.
@@ -64,12 +69,14 @@ private:
     DrillDeal analysed(const HandCards& cards, int tries) const;
     DrillDeal dealWeakSpot();
     const std::string& pickWeakLine();
+    DrillDeal dealFiled();
 
     GameId game_{GameId::JacksOrBetter};
     RandomSource& random_;
     odds::PayScale scale_{};
     std::vector<WeakLine> weak_{};
     int weakTotal_{0};
+    std::shared_ptr<const LineDeals> filed_{};
 };
 
 } // namespace marivale

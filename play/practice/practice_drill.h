@@ -7,8 +7,10 @@
 
 // Standard library
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Marivale
@@ -41,6 +43,10 @@ public:
     // The lines the player gets wrong, from the player's record; the drill's own mistakes count
     // beside them.
     void setWeakLines(const std::vector<WeakLine>& lines);
+    // The game's deals filed by line, once they are.
+    void setLineDeals(std::shared_ptr<const LineDeals> filed) {
+        dealer_.setLineDeals(std::move(filed));
+    }
     // The lines the weak-spot mode deals now, most mistakes first.
     std::vector<WeakLine> weakLines() const;
 

@@ -148,5 +148,26 @@ TEST(PracticeDrillTest, WeakSpotsFollowTheMistakes) {
     EXPECT_TRUE(drill.weakLines().empty());
 }
 
+// Filed by line, a rare line is dealt at once, and the four royal flushes are the deals of
+// theirs.
+TEST(PracticeDrillTest, FiledDealsPlayTheirLine) {
+    const auto filed = LineDeals::build(kGame);
+    ASSERT_NE(filed, nullptr);
+    if (kJacks) {
+        EXPECT_EQ(filed->deals("Royal Flush"), 4);
+    }
+    EXPECT_EQ(filed->deals("no such line"), 0);
+    SeededRandomSource random(5);
+    PracticeDrill drill(kGame, random);
+    drill.setLineDeals(filed);
+    drill.setMode(DrillMode::WeakSpots);
+    drill.setWeakLines({{kRoyalDraw, 1}, {"no such line", 5}});
+    for (int i = 0; i < 20; ++i) {
+        const DrillDeal& deal = drill.deal();
+        EXPECT_EQ(deal.bestLine, kRoyalDraw);
+        EXPECT_EQ(deal.tries, 1);
+    }
+}
+
 } // namespace
 } // namespace marivale

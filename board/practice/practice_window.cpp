@@ -1,7 +1,6 @@
 #include "board/practice/practice_window.h"
 
 // Standard library
-#include <functional>
 #include <utility>
 
 // Qt
@@ -13,45 +12,23 @@
 #include <QVBoxLayout>
 
 // Marivale
+#include "board/practice/answer_label.h"
 #include "board/practice/drill_chart.h"
+#include "board/practice/drill_texts.h"
 #include "engine/odds/draw_tables.h"
 #include "play/game_variant.h"
 #include "play/practice/line_deals.h"
-#include "ui/card_text.h"
 #include "ui/design_look.h"
-#include "ui/number_text.h"
 
 namespace marivale {
 namespace {
 
 constexpr QSize kCardSize{72, 96};
 
-// A label that says when it has painted itself, for the timing of an answer.
-class AnswerLabel final : public QLabel {
-public:
-    AnswerLabel(QWidget* parent, std::function<void()> painted)
-        : QLabel(parent), painted_(std::move(painted)) {}
-
-protected:
-    void paintEvent(QPaintEvent* event) override {
-        QLabel::paintEvent(event);
-        painted_();
-    }
-
-private:
-    std::function<void()> painted_;
-};
-
 // The position 1 to 5 keys (top row or keypad) stand for, or -1.
 int positionKey(const QKeyEvent& event) {
     const int key = event.key();
     return key >= Qt::Key_1 && key <= Qt::Key_5 ? key - Qt::Key_1 : -1;
-}
-
-QString holdText(const HandCards& cards, unsigned held, const std::string& line, double bets) {
-    const QString kept = held == 0 ? QObject::tr("nothing") : cardsHtml(cards, held);
-    return QObject::tr("%1 &mdash; %2 (%3 bets)")
-        .arg(kept, QString::fromStdString(line).toHtmlEscaped(), decimalText(bets, 4));
 }
 
 } // namespace
@@ -123,6 +100,7 @@ PracticeWindow::PracticeWindow(GameId game, QWidget* parent, std::unique_ptr<Ran
     weak_ = new QLabel(this);
     weak_->setObjectName(QStringLiteral("DrillWeakLines"));
     weak_->setWordWrap(true);
+    weak_->setTextFormat(Qt::PlainText);
     layout->addWidget(weak_);
     chart_ = new DrillChart(this);
     chart_->setMinimumSize(420, 200);
@@ -250,48 +228,19 @@ void PracticeWindow::showVerdict() {
         verdict_->setText(tr("Working out the odds of the game…"));
         return;
     }
-    const DrillDeal& hand = drill_.hand();
-    const auto& verdict = drill_.verdict();
-    if (!verdict) {
-        QString text = tr("Hold the cards to keep (click or 1&ndash;5), then Submit (Enter).");
-        if (!hand.asked) {
-            text += tr("<br>No deal of that kind came up in %1 tries: this one is any deal.")
-                        .arg(hand.tries);
-        }
-        verdict_->setText(text);
-        return;
-    }
-    const QString best =
-        holdText(hand.cards, verdict->best, verdict->bestLine, verdict->bestReturn);
-    const QString yours =
-        holdText(hand.cards, verdict->held, verdict->heldLine, verdict->heldReturn);
-    const QString outcome = verdict->mistake
-                                ? tr("<b>Cost: %1 bets</b>").arg(decimalText(verdict->cost, 4))
-                                : tr("<b>Right: as good as the best hold</b>");
-    verdict_->setText(tr("Best hold: %1<br>Your hold: %2<br>%3<br>Enter deals the next hand.")
-                          .arg(best, yours, outcome));
+    verdict_->setText(drillAnswerText(drill_));
 }
 
 void PracticeWindow::showScore() {
-    const DrillScore& score = drill_.score();
-    score_->setText(tr("Hands %1     Accuracy %2%     Cost per 100 hands %3 bets")
-                        .arg(score.hands())
-                        .arg(decimalText(score.accuracy(), 1), decimalText(score.costPer100(), 2)));
+    score_->setText(drillScoreText(drill_.score()));
 }
 
 void PracticeWindow::showWeakLines() {
-    if (drill_.mode() != DrillMode::WeakSpots) {
+    if (drill_.mode() == DrillMode::WeakSpots) {
+        weak_->setText(weakLinesText(drill_.weakLines()));
+    } else {
         weak_->clear();
-        return;
     }
-    QStringList lines;
-    for (const WeakLine& line : drill_.weakLines()) {
-        lines << tr("%1 (%2)")
-                     .arg(QString::fromStdString(line.name).toHtmlEscaped())
-                     .arg(line.mistakes);
-    }
-    weak_->setText(lines.isEmpty() ? tr("No mistakes yet: the deals are random until one.")
-                                   : tr("Weak spots: %1").arg(lines.join(QStringLiteral(", "))));
 }
 
 void PracticeWindow::answerPainted() {

@@ -108,6 +108,8 @@ void BoardCompanions::togglePractice() {
         practice_ = new PracticeWindow(game_, &board_);
         QObject::connect(practice_, &PracticeWindow::weakLinesWanted, &board_,
                          [this] { practice_->setWeakLines(weakLinesOf(stats_, game_)); });
+        // Laid out before it is placed, so that it stands clear of the board at its full size.
+        practice_->adjustSize();
     }
     if (practice_->isVisible()) {
         practice_->hide();

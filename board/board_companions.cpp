@@ -7,8 +7,10 @@
 #include <QScreen>
 
 // Marivale
+#include "board/practice/practice_window.h"
 #include "board/stats/stats_window.h"
 #include "board/strategy/strategy_window.h"
+#include "play/practice/practice_drill.h"
 #include "play/stats/session_stats.h"
 #include "record/record_store.h"
 
@@ -122,6 +124,25 @@ void BoardCompanions::toggleStatistics() {
     statsWindow_->raise();
 }
 
+// The drills' weak spots come from the run's judged hands of the board's game.
+void BoardCompanions::togglePractice() {
+    if (practice_ == nullptr) {
+        practice_ = new PracticeWindow(game_, &board_);
+        QObject::connect(practice_, &PracticeWindow::weakLinesWanted, &board_,
+                         [this] { practice_->setWeakLines(weakLinesOf(stats_, game_)); });
+        // Laid out before it is placed, so that it stands clear of the board at its full size.
+        practice_->adjustSize();
+    }
+    if (practice_->isVisible()) {
+        practice_->hide();
+        return;
+    }
+    placeBeside(*practice_, board_, Side::Left);
+    practice_->show();
+    practice_->raise();
+    practice_->activateWindow();
+}
+
 void BoardCompanions::handDealt() {
     if (strategy_ != nullptr) {
         strategy_->handDealt();
@@ -143,6 +164,8 @@ void BoardCompanions::betChanged() {
 void BoardCompanions::closeAll() {
     delete statsWindow_;
     statsWindow_ = nullptr;
+    delete practice_;
+    practice_ = nullptr;
     if (strategy_ != nullptr) {
         strategy_->close();
     }

@@ -1,7 +1,8 @@
 #pragma once
 
-// The board's two companion windows, Strategy (F2) and the statistics (F3): each is built the
-// first time it is asked for, stands beside the board, and follows the board's hands.
+// The board's companion windows, Strategy (F2), the statistics (F3) and Practice (F4): each is
+// built the first time it is asked for and stands beside the board; the first two follow the
+// board's hands.
 
 // Standard library
 #include <array>
@@ -18,6 +19,7 @@ namespace marivale {
 
 class SessionStats;
 struct HandRecord;
+class PracticeWindow;
 class StatsWindow;
 class StrategyWindow;
 
@@ -38,6 +40,8 @@ public:
     void toggleStrategy();
     // F3: opens the statistics beside the board, or hides them.
     void toggleStatistics();
+    // F4: opens the Practice window beside the board, or hides it.
+    void togglePractice();
 
     // Shows a hand of the history in the Strategy window of its game, opened if need be.
     void replay(const HandRecord& hand);
@@ -66,6 +70,7 @@ private:
     SessionStats& stats_;
     StrategyWindow* strategy_{nullptr};
     StatsWindow* statsWindow_{nullptr};
+    PracticeWindow* practice_{nullptr};
     // Strategy windows for hands of the history of other games, which no hand in play reaches.
     std::array<StrategyWindow*, kGameCount> replays_{};
     GameState replayState_{};

@@ -73,6 +73,7 @@ public:
     void unloadOnce();
     void toggleStrategy() { companions_.toggleStrategy(); }
     void toggleStatistics() { companions_.toggleStatistics(); }
+    void togglePractice() { companions_.togglePractice(); }
     // The keys of play: 1 to 5 hold, Enter deals, draws or takes the score. True when used.
     bool playKey(const QKeyEvent& event) { return playBoardKey(widgets_, event, keys_); }
     void keyReleased(const QKeyEvent& event) { keys_.released(event); }
@@ -304,8 +305,8 @@ GameBoard::~GameBoard() {
     impl_->unloadOnce();
 }
 
-// F2 opens or closes the Strategy window, F3 the statistics, F5 shows the best hold; 1 to 5
-// and Enter play; Escape never ends a visit by accident.
+// F2 opens or closes the Strategy window, F3 the statistics, F4 Practice, F5 shows the best
+// hold; 1 to 5 and Enter play; Escape never ends a visit by accident.
 void GameBoard::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F2) {
         impl_->toggleStrategy();
@@ -313,6 +314,10 @@ void GameBoard::keyPressEvent(QKeyEvent* event) {
     }
     if (event->key() == Qt::Key_F3) {
         impl_->toggleStatistics();
+        return;
+    }
+    if (event->key() == Qt::Key_F4) {
+        impl_->togglePractice();
         return;
     }
     if (event->key() == Qt::Key_F5) {

@@ -247,7 +247,7 @@ QList<QKeySequence> accessKeys(const QWidget& window) {
 }
 
 // A companion counts the board as active too, so a shared access key would act on neither: each
-// key of Strategy and the statistics is one the board never uses in any phase.
+// key of Strategy, the statistics and Practice is one the board never uses in any phase.
 void BoardKeysTest::companionAccessKeysNeverClashWithTheBoards() {
     BoardFixture f(GameId::JacksOrBetter);
     QList<QKeySequence> board;
@@ -262,7 +262,8 @@ void BoardKeysTest::companionAccessKeysNeverClashWithTheBoards() {
     }
     QTest::keyClick(f.board.get(), Qt::Key_F2);
     QTest::keyClick(f.board.get(), Qt::Key_F3);
-    for (const char* name : {"Strategy", "Statistics"}) {
+    QTest::keyClick(f.board.get(), Qt::Key_F4);
+    for (const char* name : {"Strategy", "Statistics", "Practice"}) {
         const QWidget* companion = f.find<QWidget>(QString::fromLatin1(name));
         QVERIFY(companion != nullptr);
         const QList<QKeySequence> keys = accessKeys(*companion);

@@ -2,6 +2,7 @@
 
 // Standard library
 #include <algorithm>
+#include <vector>
 
 // Qt
 #include <QScreen>
@@ -12,6 +13,8 @@
 #include "board/strategy/strategy_window.h"
 #include "play/practice/practice_drill.h"
 #include "play/stats/session_stats.h"
+#include "record/record_query.h"
+#include "record/record_rows.h"
 #include "record/record_store.h"
 
 namespace marivale {
@@ -124,12 +127,33 @@ void BoardCompanions::toggleStatistics() {
     statsWindow_->raise();
 }
 
-// The drills' weak spots come from the run's judged hands of the board's game.
+// The drills' weak spots: the chart lines of the board's game and table that the player got wrong
+// most over every run recorded, or this run's judged hands when nothing is recorded.
 void BoardCompanions::togglePractice() {
     if (practice_ == nullptr) {
         practice_ = new PracticeWindow(game_, &board_);
-        QObject::connect(practice_, &PracticeWindow::weakLinesWanted, &board_,
-                         [this] { practice_->setWeakLines(weakLinesOf(stats_, game_)); });
+        QObject::connect(practice_, &PracticeWindow::weakLinesWanted, &board_, [this] {
+            const auto* store = dynamic_cast<RecordStore*>(stats_.sink());
+            if (store == nullptr || !store->recording()) {
+                practice_->setWeakLines(weakLinesOf(stats_, game_));
+                return;
+            }
+            std::vector<WeakLine> lines;
+            for (const LineCost& line : lineCosts(store->database(), game_, payTableText(game_))) {
+                if (line.mistakes > 0) {
+                    lines.push_back(
+                        {.name = line.line.toStdString(), .mistakes = int(line.mistakes)});
+                }
+            }
+            practice_->setWeakLines(lines);
+        });
+        if (auto* store = dynamic_cast<RecordStore*>(stats_.sink())) {
+            QObject::connect(
+                practice_, &PracticeWindow::drillJudged, &board_,
+                [store](GameId game, const HandCards& dealt, const DrillVerdict& verdict) {
+                    store->drillHand(game, dealt, verdict);
+                });
+        }
         // Laid out before it is placed, so that it stands clear of the board at its full size.
         practice_->adjustSize();
     }

@@ -78,7 +78,8 @@ bool RecordRows::addHand(qint64 run, qint64 time, const HandRecord& hand) {
     if (!exec(QStringLiteral(
                   "INSERT INTO hands(run, visit, number, time, game, pay_table, bet, dealt, holds,"
                   " final, code, name, paid, double_up, double_factor, bonus, bonus_factor,"
-                  " abandoned, trainer, block) VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
+                  " abandoned, trainer, hint_used, warning_used, block)"
+                  " VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)"),
               {run,
                hand.visit,
                hand.number,
@@ -98,6 +99,8 @@ bool RecordRows::addHand(qint64 run, qint64 time, const HandRecord& hand) {
                factor,
                hand.abandoned ? 1 : 0,
                hand.trainer ? 1 : 0,
+               hand.hinted ? 1 : 0,
+               hand.warned ? 1 : 0,
                block})) {
         return false;
     }
@@ -155,6 +158,17 @@ bool RecordRows::addMoney(qint64 run, qint64 time, const MoneyRecord& money) {
                                " credits) VALUES(?,?,?,?,?,?,?)"),
                 {run, money.visit, time, static_cast<int>(money.game), static_cast<int>(money.kind),
                  double(money.amount), double(money.credits)});
+}
+
+bool RecordRows::addDrillHand(qint64 run, qint64 time, int number, GameId game,
+                              const HandCards& dealt, const DrillVerdict& verdict) {
+    return exec(QStringLiteral("INSERT INTO hands(run, visit, number, time, game, pay_table, bet,"
+                               " dealt, holds, paid, double_up, double_factor, bonus, bonus_factor,"
+                               " abandoned, trainer, best_holds, best_line, cost, mistake, drill)"
+                               " VALUES(?,0,?,?,?,?,0,?,?,0,0,0,0,0,0,1,?,?,?,?,1)"),
+                {run, number, time, static_cast<int>(game), payTableText(game), cardsField(dealt),
+                 verdict.held, verdict.best, QString::fromStdString(verdict.bestLine), verdict.cost,
+                 verdict.mistake ? 1 : 0});
 }
 
 } // namespace marivale

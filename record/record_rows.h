@@ -9,6 +9,7 @@
 #include <QString>
 
 // Marivale
+#include "play/practice/practice_drill.h"
 #include "play/stats/hand_sink.h"
 
 namespace marivale {
@@ -29,6 +30,9 @@ public:
     // judged already.
     bool judgeHand(qint64 run, const HandRecord& hand);
     bool addMoney(qint64 run, qint64 time, const MoneyRecord& money);
+    // A practice hand, kept apart from play: no bet, no pay, its cost in bets, in no total.
+    bool addDrillHand(qint64 run, qint64 time, int number, GameId game, const HandCards& dealt,
+                      const DrillVerdict& verdict);
 
     const QSqlError& error() const { return error_; }
 

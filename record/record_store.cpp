@@ -220,12 +220,35 @@ void RecordStore::moneyMoved(const MoneyRecord& money) {
     add({Pending::Kind::Money, now(), {}, money});
 }
 
+void RecordStore::drillHand(GameId game, const HandCards& dealt, const DrillVerdict& verdict) {
+    HandRecord hand;
+    hand.number = -(++drillHands_);
+    hand.game = game;
+    hand.dealt = dealt;
+    add({Pending::Kind::Drill, now(), hand, {}, verdict});
+}
+
 void RecordStore::add(Pending pending) {
     if (!recording_) {
         return;
     }
     pending_.push_back(std::move(pending));
     flush();
+}
+
+bool RecordStore::write(RecordRows& rows, const Pending& pending) const {
+    switch (pending.kind) {
+    case Pending::Kind::Hand:
+        return rows.addHand(run_, pending.time, pending.hand);
+    case Pending::Kind::Judgement:
+        return rows.judgeHand(run_, pending.hand);
+    case Pending::Kind::Money:
+        return rows.addMoney(run_, pending.time, pending.money);
+    case Pending::Kind::Drill:
+        return rows.addDrillHand(run_, pending.time, pending.hand.number, pending.hand.game,
+                                 pending.hand.dealt, pending.drill);
+    }
+    return false;
 }
 
 // Writes what waits, one transaction each, oldest first; a database held by another copy
@@ -239,10 +262,7 @@ void RecordStore::flush() {
         const Pending& next = pending_.front();
         bool written = query.exec(QStringLiteral("BEGIN IMMEDIATE"));
         if (written) {
-            written = next.kind == Pending::Kind::Hand ? rows.addHand(run_, next.time, next.hand)
-                      : next.kind == Pending::Kind::Judgement
-                          ? rows.judgeHand(run_, next.hand)
-                          : rows.addMoney(run_, next.time, next.money);
+            written = write(rows, next);
             error = written ? QSqlError() : rows.error();
             written = written && query.exec(QStringLiteral("COMMIT"));
         }

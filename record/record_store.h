@@ -17,9 +17,12 @@
 #include <QString>
 
 // Marivale
+#include "play/practice/practice_drill.h"
 #include "play/stats/hand_sink.h"
 
 namespace marivale {
+
+class RecordRows;
 
 class LogCheckpointer;
 
@@ -41,6 +44,9 @@ public:
     void handJudged(const HandRecord& hand) override;
     void moneyMoved(const MoneyRecord& money) override;
 
+    // A practice hand and its verdict, kept apart from play.
+    void drillHand(GameId game, const HandCards& dealt, const DrillVerdict& verdict);
+
     bool recording() const { return recording_; }
     qint64 run() const { return run_; }
     const QString& path() const { return path_; }
@@ -56,17 +62,18 @@ public:
 
 private:
     struct Pending {
-        enum class Kind { Hand, Judgement, Money } kind{Kind::Hand};
+        enum class Kind { Hand, Judgement, Money, Drill } kind{Kind::Hand};
         qint64 time{0};
         HandRecord hand{};
         MoneyRecord money{};
+        DrillVerdict drill{};
     };
 
     bool open();
     bool openFile();
     bool setAside();
     void add(Pending pending);
-    bool write(const Pending& pending);
+    bool write(RecordRows& rows, const Pending& pending) const;
     void flush();
     void stop(const QString& message);
     void say(const QString& message);
@@ -77,6 +84,7 @@ private:
     bool recording_{false};
     bool said_{false};
     qint64 run_{0};
+    int drillHands_{0}; // drill hands are numbered -1, -2, ... so they never meet a hand of play
     QString keptAside_{};
     std::deque<Pending> pending_{};
     std::unique_ptr<LogCheckpointer> checkpointer_{};

@@ -190,7 +190,7 @@ void PracticeWindow::submit() {
     if (working_ || !drill_.dealt() || drill_.verdict()) {
         return;
     }
-    drill_.submit();
+    emit drillJudged(drill_.game(), drill_.hand().cards, drill_.submit());
     showHand();
     showVerdict();
     showScore();

@@ -52,6 +52,8 @@ signals:
     // The weak-spot mode was chosen: whoever keeps the player's record may answer with
     // setWeakLines().
     void weakLinesWanted();
+    // A drill hand was judged: whoever keeps the player's record may keep it apart from play.
+    void drillJudged(GameId game, const HandCards& dealt, const DrillVerdict& verdict);
 
 protected:
     void showEvent(QShowEvent* event) override;

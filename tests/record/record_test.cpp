@@ -23,6 +23,7 @@
 #include "record/record_schema.h"
 #include "record/record_store.h"
 #include "tests/support/fake_view.h"
+#include "tests/support/hand_text.h"
 #include "tests/support/unprivileged.h"
 
 namespace marivale {
@@ -111,6 +112,17 @@ TEST(Record, FiguresPagesAndCsvOfAFilter) {
     playVisit(stats);
     playVisit(stats);
     judgeAll(stats);
+    // A practice hand is kept apart: in no figure, no page and no CSV.
+    store.drillHand(GameId::JacksOrBetter, testing::cardsFromText("As Ks Qs Js 2c"),
+                    {.best = 0b01111,
+                     .bestLine = "4 to a Royal Flush",
+                     .held = 0,
+                     .cost = 6.1,
+                     .mistake = true});
+    EXPECT_DOUBLE_EQ(
+        scalar(store.database(), QStringLiteral("SELECT cost FROM hands WHERE drill = 1 AND bet = 0"
+                                                " AND best_line = '4 to a Royal Flush'")),
+        6.1);
     const std::vector<TableFigures> figures = lifetimeFigures(store.database());
     ASSERT_EQ(figures.size(), 1u);
     EXPECT_EQ(figures[0].payTable.toStdString(), "250 100 25 8 5 4 3 1 1");
